@@ -1,0 +1,147 @@
+// OCTET STRING, BIT STRING, the character strings, ENUMERATED, BOOLEAN and NULL. Writing differs by
+// the tag alone; reading is one function for all.
+#include "der/byte_string.h"
+
+#include "der/forward.h"
+
+namespace velkord {
+
+uint32_t CopyBmpText(Bytes text, uint8_t* out) {
+  uint32_t size = 0;
+  for (size_t at = 0; at + 1 < text.size(); at += 2) {
+    if (text[at] != 0) out[size++] = text[at];
+    out[size++] = text[at + 1];
+  }
+  return size;
+}
+
+}  // namespace velkord
+
+using namespace velkord;
+
+int32_t ASN1_WriteOctetString(const Anybuf* source, Anybuf** out) {
+  return DerBuildFromNode(kOctetString, source, out);
+}
+
+int32_t ASN1_WriteBitString(const Anybuf* source, Anybuf** out) {
+  return DerBuildFromNode(kBitString, source, out);
+}
+
+int32_t ASN1_WriteCharString(const Anybuf* source, Anybuf** out) {
+  return DerBuildFromNode(kPrintableString, source, out);
+}
+
+int32_t ASN1_WriteUTF8String(const Anybuf* source, Anybuf** out) {
+  return DerBuildFromNode(kUtf8String, source, out);
+}
+
+int32_t ASN1_WriteBmpString(const Anybuf* source, Anybuf** out) {
+  return DerBuildFromNode(kBmpString, source, out);
+}
+
+int32_t ASN1_WriteIa5String(const Anybuf* source, Anybuf** out) {
+  return DerBuildFromNode(kIa5String, source, out);
+}
+
+int32_t ASN1_WriteEnumerated(const Anybuf* source, Anybuf** out) {
+  return DerBuildFromNode(kEnumerated, source, out);
+}
+
+int32_t ASN1_WritePrintableString(const Anybuf* source, Anybuf** out) {
+  const bool isBmp = source != nullptr && source->dataType == kBmpString;
+  return isBmp ? ASN1_WriteBmpString(source, out) : ASN1_WriteCharString(source, out);
+}
+
+int32_t ASN1_WriteOctetStringFromBytes(const uint8_t* bytes, uint32_t length, Anybuf** out) {
+  return DerBuildFromBytes(kOctetString, bytes, length, out);
+}
+
+int32_t ASN1_WriteBitStringFromBytes(const uint8_t* bytes, uint32_t length, Anybuf** out) {
+  return DerBuildFromBytes(kBitString, bytes, length, out);
+}
+
+int32_t ASN1_WriteCharStringFromBytes(const uint8_t* bytes, uint32_t length, Anybuf** out) {
+  return DerBuildFromBytes(kPrintableString, bytes, length, out);
+}
+
+int32_t ASN1_WriteUTF8StringFromBytes(const uint8_t* bytes, uint32_t length, Anybuf** out) {
+  return DerBuildFromBytes(kUtf8String, bytes, length, out);
+}
+
+int32_t ASN1_WriteBmpStringFromBytes(const uint8_t* bytes, uint32_t length, Anybuf** out) {
+  return DerBuildFromBytes(kBmpString, bytes, length, out);
+}
+
+int32_t ASN1_WriteIa5StringFromBytes(const uint8_t* bytes, uint32_t length, Anybuf** out) {
+  return DerBuildFromBytes(kIa5String, bytes, length, out);
+}
+
+int32_t ASN1_WritePrintableStringFromBytes(int32_t selector, const uint8_t* bytes, uint32_t length,
+                                           Anybuf** out) {
+  return selector != 0 ? ASN1_WriteCharStringFromBytes(bytes, length, out)
+                       : ASN1_WriteBmpStringFromBytes(bytes, length, out);
+}
+
+int32_t ASN1_WriteBitStringFromDERBytes(const uint8_t* bytes, uint32_t length, Anybuf** out) {
+  if (out == nullptr) return VELKORD_NULL_ARGUMENT;
+  Bytes in;
+  VELKORD_TRY(CallerBytes(bytes, length, in));
+  return DerCopyBitString(in, out);
+}
+
+int32_t ASN1_WriteBoolean(const uint8_t* value, Anybuf** out) {
+  if (value == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
+  return DerBuild(kBoolean, Bytes(value, 1), out);
+}
+
+int32_t ASN1_ReadBoolean(const Anybuf* source, uint8_t* value) {
+  if (source == nullptr || value == nullptr) return VELKORD_NULL_ARGUMENT;
+  DerContent content;
+  VELKORD_TRY(DerOpenContent(*source, content));
+  if (content.bytes.empty()) return VELKORD_SIZE_MISMATCH;
+  *value = content.bytes[0];
+  return VELKORD_OK;
+}
+
+int32_t ASN1_WriteNull(Anybuf** out) {
+  if (out == nullptr) return VELKORD_NULL_ARGUMENT;
+  return DerBuild(kNull, {}, out);
+}
+
+int32_t ASN1_ReadBitString(const Anybuf* source, Anybuf** out) {
+  if (source == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
+  DerContent content;
+  VELKORD_TRY(DerOpenContent(*source, content));
+  return DerCopyBytes(content.bytes, content.tag, content.unusedBits, out);
+}
+
+VELKORD_FORWARD_NODE(ASN1_ReadBmpString, ASN1_ReadBitString)
+VELKORD_FORWARD_NODE(ASN1_ReadCharString, ASN1_ReadBitString)
+VELKORD_FORWARD_NODE(ASN1_ReadEnumerated, ASN1_ReadBitString)
+VELKORD_FORWARD_NODE(ASN1_ReadIa5String, ASN1_ReadBitString)
+VELKORD_FORWARD_NODE(ASN1_ReadIntegerArray, ASN1_ReadBitString)
+VELKORD_FORWARD_NODE(ASN1_ReadOctetString, ASN1_ReadBitString)
+VELKORD_FORWARD_NODE(ASN1_ReadPrintableString, ASN1_ReadBitString)
+VELKORD_FORWARD_NODE(ASN1_ReadUTF8String, ASN1_ReadBitString)
+
+int32_t ASN1_ReadOctetStringToBytes(const Anybuf* source, uint8_t* out, uint32_t* outLength) {
+  if (source == nullptr || out == nullptr || outLength == nullptr) return VELKORD_NULL_ARGUMENT;
+  DerContent content;
+  VELKORD_TRY(DerOpenContent(*source, content));
+  *outLength = CopyOut(content.bytes, out);
+  return VELKORD_OK;
+}
+
+VELKORD_FORWARD_TO_BYTES(ASN1_ReadCharStringToBytes, ASN1_ReadOctetStringToBytes)
+VELKORD_FORWARD_TO_BYTES(ASN1_ReadIa5StringToBytes, ASN1_ReadOctetStringToBytes)
+VELKORD_FORWARD_TO_BYTES(ASN1_ReadIntegerArrayToBytes, ASN1_ReadOctetStringToBytes)
+VELKORD_FORWARD_TO_BYTES(ASN1_ReadPrintableStringToBytes, ASN1_ReadOctetStringToBytes)
+VELKORD_FORWARD_TO_BYTES(ASN1_ReadUTF8StringToBytes, ASN1_ReadOctetStringToBytes)
+
+int32_t ASN1_ReadBmpStringToBytes(const Anybuf* source, uint8_t* out, uint32_t* outLength) {
+  if (source == nullptr || out == nullptr || outLength == nullptr) return VELKORD_NULL_ARGUMENT;
+  DerContent content;
+  VELKORD_TRY(DerOpenContent(*source, content));
+  *outLength = CopyBmpText(content.bytes, out);
+  return VELKORD_OK;
+}

@@ -1,0 +1,15 @@
+// Byte and character strings: the one conversion that reading can involve.
+#ifndef VELKORD_DER_BYTE_STRING_H_
+#define VELKORD_DER_BYTE_STRING_H_
+
+#include "der/node.h"
+
+namespace velkord {
+
+// Copies BMP text to `out`, of each pair a zero high byte left out and an odd last byte too; gives
+// the number of bytes written, at most those of `text`.
+uint32_t CopyBmpText(Bytes text, uint8_t* out);
+
+}  // namespace velkord
+
+#endif  // VELKORD_DER_BYTE_STRING_H_

@@ -1,0 +1,102 @@
+// Reading of DER: views that own nothing, and the tag and length rules. Every read of an input byte
+// in the library happens here, behind one bounds check a step.
+#ifndef VELKORD_DER_ELEMENT_H_
+#define VELKORD_DER_ELEMENT_H_
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+#include "der/result.h"
+
+namespace velkord {
+
+using Bytes = std::span<const uint8_t>;
+
+// Tag octets as they are written.
+inline constexpr uint8_t kBoolean = 0x01;
+inline constexpr uint8_t kInteger = 0x02;
+inline constexpr uint8_t kBitString = 0x03;
+inline constexpr uint8_t kOctetString = 0x04;
+inline constexpr uint8_t kNull = 0x05;
+inline constexpr uint8_t kObjectId = 0x06;
+inline constexpr uint8_t kEnumerated = 0x0A;
+inline constexpr uint8_t kUtf8String = 0x0C;
+inline constexpr uint8_t kPrintableString = 0x13;
+inline constexpr uint8_t kIa5String = 0x16;
+inline constexpr uint8_t kUtcTime = 0x17;
+inline constexpr uint8_t kGeneralizedTime = 0x18;
+inline constexpr uint8_t kBmpString = 0x1E;
+inline constexpr uint8_t kSequence = 0x30;
+inline constexpr uint8_t kSet = 0x31;
+inline constexpr uint8_t kContextPrimitive = 0x80;
+inline constexpr uint8_t kContextConstructed = 0xA0;
+
+// The low five bits: the number of a one-octet tag, and all set in the first octet of a longer one.
+inline constexpr uint8_t kTagNumberMask = 0x1F;
+
+// A context or private tag stays whole; a universal or application tag is its number.
+constexpr uint32_t ReduceTag(uint8_t octet) {
+  return octet >= 0x80 ? octet : octet & kTagNumberMask;
+}
+
+// Reads the tag octets at the front of `in`, which moves behind them. A tag of several octets is
+// `(number << 8) | first octet`, the number cut to 24 bits.
+// 0, or -2 when the tag does not end inside `in`.
+int32_t DerParseTag(Bytes& in, uint32_t& tag);
+
+// Reads the length octets at the front of `in`, which moves behind them. Lengths need not be
+// minimal. 0; -1 for more than 4 subsequent octets; -2 for the indefinite form and for octets cut
+// off.
+int32_t DerParseLength(Bytes& in, uint32_t& length);
+
+// Number of length octets of a content of `length` bytes in shortest form, 1 to 5.
+constexpr uint32_t DerLengthSize(uint32_t length) {
+  if (length < 0x80) return 1;
+  if (length < 0x100) return 2;
+  if (length < 0x10000) return 3;
+  return length < 0x1000000 ? 4 : 5;
+}
+
+// One element: its reduced tag and views of the whole TLV and of its content.
+struct DerElement {
+  uint32_t tag = 0;
+  Bytes whole;
+  Bytes content;
+};
+
+// Takes the element at the front of `in`, which moves behind it. 0, -1 or -2 as the parsers above.
+int32_t DerTakeElement(Bytes& in, DerElement& element);
+
+// Takes an element that must fill `in` exactly; -2 when it does not.
+int32_t DerParseElement(Bytes in, DerElement& element);
+
+// The direct children of an element, all of them checked before the first is given out.
+class DerElements {
+ public:
+  // Opens a SEQUENCE or SET of reduced tag `type` that fills `in`.
+  // 0; -7 for another tag; -1 or -2 from its own header; -1 when a child does not fit.
+  int32_t Open(Bytes in, uint32_t type);
+
+  // Opens the content of an element whose header is read. 0, or -1 when a child does not fit.
+  int32_t OpenContent(Bytes content);
+
+  Bytes Content() const { return content_; }
+  uint32_t Count() const { return count_; }
+  bool AtEnd() const { return rest_.empty(); }
+
+  // Gives the next child. 0, or -1 at the end.
+  int32_t Next(DerElement& child);
+
+ private:
+  Bytes content_;
+  Bytes rest_;
+  uint32_t count_ = 0;
+};
+
+inline constexpr uint32_t kSequenceType = ReduceTag(kSequence);
+inline constexpr uint32_t kSetType = ReduceTag(kSet);
+
+}  // namespace velkord
+
+#endif  // VELKORD_DER_ELEMENT_H_

@@ -1,0 +1,55 @@
+// INTEGER as a number of 32 bits and as a magnitude of any size.
+#include "der/integer.h"
+
+#include "platform/memory.h"
+
+using namespace velkord;
+
+namespace {
+
+uint32_t DerBytesToUint(Bytes content) {
+  uint32_t value = 0;
+  for (const uint8_t octet : content) value = value << 8 | octet;
+  return value;
+}
+
+}  // namespace
+
+int32_t Asn1LowIntToChar(uint32_t value, uint8_t** outBytes, uint32_t** outLength) {
+  if (outBytes == nullptr || outLength == nullptr) return VELKORD_NULL_ARGUMENT;
+  const IntegerOctets octets(value);
+  uint8_t* block = AllocateBytes(octets.View().size());
+  auto* length = AllocateZeroed<uint32_t>();
+  if (block == nullptr || length == nullptr) {
+    Release(block);
+    Release(length);
+    return VELKORD_FAILURE;
+  }
+  Put(block, octets.View());
+  *length = static_cast<uint32_t>(octets.View().size());
+  *outBytes = block;
+  *outLength = length;
+  return VELKORD_OK;
+}
+
+int32_t ASN1_WriteInteger(uint32_t value, Anybuf** out) {
+  if (out == nullptr) return VELKORD_NULL_ARGUMENT;
+  return DerJoin(kInteger, {IntegerOctets(value).View()}, out);
+}
+
+int32_t ASN1_ReadInteger(const Anybuf* source, uint32_t* value) {
+  if (source == nullptr || value == nullptr) return VELKORD_NULL_ARGUMENT;
+  Bytes in = NodeBytes(*source);
+  DerElement element;
+  VELKORD_TRY(DerTakeElement(in, element));
+  *value = DerBytesToUint(element.content);
+  return VELKORD_OK;
+}
+
+int32_t ASN1_WriteIntegerArray(const Anybuf* source, Anybuf** out) {
+  return DerBuildFromNode(kInteger, source, out);
+}
+
+int32_t ASN1_WriteIntegerArrayFromBytes(const uint8_t* bytes, uint32_t length, Anybuf** out) {
+  return DerBuildFromBytes(kInteger, bytes, length, out);
+}

@@ -1,0 +1,191 @@
+#include "der/node.h"
+
+#include <algorithm>
+#include <bit>
+
+#include "platform/memory.h"
+
+namespace velkord {
+
+namespace {
+
+// Writes tag and length octets and gives the place behind them.
+uint8_t* PutHeader(uint8_t* place, uint8_t tag, uint32_t length) {
+  *place++ = tag;
+  const uint32_t octets = DerLengthSize(length) - 1;
+  if (octets != 0) *place++ = static_cast<uint8_t>(0x80 | octets);
+  for (uint32_t left = std::max(octets, 1U); left != 0; --left) {
+    *place++ = static_cast<uint8_t>(length >> 8 * (left - 1));
+  }
+  return place;
+}
+
+bool NeedsZeroOctet(uint8_t tag, Bytes content) {
+  return tag == kInteger && !content.empty() && content[0] >= 0x80;
+}
+
+// The content of an element without the zero octet that keeps an INTEGER positive.
+int32_t OpenElement(const DerElement& element, bool dropUnusedBitsOctet, Bytes& content) {
+  Bytes bytes = element.content;
+  if (dropUnusedBitsOctet) {
+    if (bytes.empty()) return VELKORD_SIZE_MISMATCH;
+    bytes = bytes.subspan(1);
+  }
+  if (element.tag == kInteger && bytes.size() >= 2 && bytes[0] == 0 && bytes[1] >= 0x80) {
+    bytes = bytes.subspan(1);
+  }
+  content = bytes;
+  return VELKORD_OK;
+}
+
+}  // namespace
+
+uint32_t ImpliedUnusedBits(Bytes bits) {
+  if (bits.empty()) return 0;
+  const uint32_t last = bits.back();
+  return last < 2 || last > 0x80 ? 0 : static_cast<uint32_t>(std::bit_width(last - 1));
+}
+
+DerHeader::DerHeader(uint8_t tag, uint64_t contentLength) {
+  // A length beyond 32 bits is refused by whoever makes the node, which is never smaller.
+  const uint8_t* end = PutHeader(octets_, tag, static_cast<uint32_t>(contentLength));
+  size_ = static_cast<size_t>(end - octets_);
+  total_ = size_ + contentLength;
+}
+
+DerHeader DerHeader::ForBitString(uint32_t unusedBits, uint64_t bitsLength) {
+  DerHeader header(kBitString, bitsLength + 1);
+  header.octets_[header.size_++] = static_cast<uint8_t>(unusedBits);
+  return header;
+}
+
+Anybuf* DerNewNode(uint64_t size, uint32_t dataType) {
+  if (size > UINT32_MAX) return nullptr;
+  Anybuf* node = AllocateZeroed<Anybuf>();
+  if (node == nullptr) return nullptr;
+  node->data = AllocateBytes(static_cast<size_t>(size));
+  if (node->data == nullptr) {
+    Release(node);
+    return nullptr;
+  }
+  node->dataLen = static_cast<uint32_t>(size);
+  node->memKind = kMemKind;
+  node->dataType = dataType;
+  return node;
+}
+
+int32_t DerCopyBytes(Bytes bytes, uint32_t dataType, uint32_t unusedBits, Anybuf** out) {
+  Anybuf* node = DerNewNode(bytes.size(), dataType);
+  if (node == nullptr) return VELKORD_FAILURE;
+  Put(node->data, bytes);
+  node->unusedBits = unusedBits;
+  *out = node;
+  return VELKORD_OK;
+}
+
+int32_t DerCopyBitString(Bytes in, Anybuf** out) {
+  Bytes rest = in;
+  uint32_t tag;
+  uint32_t length;
+  VELKORD_TRY(DerParseTag(rest, tag));
+  VELKORD_TRY(DerParseLength(rest, length));
+  if (rest.empty()) return VELKORD_SIZE_MISMATCH;
+  return DerCopyBytes(in, tag, rest[0], out);
+}
+
+Anybuf* DerCopyNode(const Anybuf& node) {
+  Anybuf* copy = nullptr;
+  if (DerCopyBytes(NodeBytes(node), node.dataType, node.unusedBits, &copy) != VELKORD_OK) {
+    return nullptr;
+  }
+  copy->memKind = node.memKind;
+  return copy;
+}
+
+int32_t DerBuildHeader(uint8_t tag, uint64_t contentLength, Anybuf** out, uint8_t*& place) {
+  if (contentLength > UINT32_MAX) return VELKORD_FAILURE;
+  const auto length = static_cast<uint32_t>(contentLength);
+  Anybuf* node = DerNewNode(1 + DerLengthSize(length) + contentLength, ReduceTag(tag));
+  if (node == nullptr) return VELKORD_FAILURE;
+  place = PutHeader(node->data, tag, length);
+  *out = node;
+  return VELKORD_OK;
+}
+
+int32_t DerBuild(uint8_t tag, Bytes content, Anybuf** out, uint32_t unusedBits) {
+  const bool leadingOctet = tag == kBitString || NeedsZeroOctet(tag, content);
+  const uint32_t leading = tag == kBitString ? unusedBits : 0;
+  Anybuf* node;
+  uint8_t* place;
+  VELKORD_TRY(DerBuildHeader(tag, uint64_t{content.size()} + (leadingOctet ? 1 : 0), &node, place));
+  node->unusedBits = leading;
+  if (leadingOctet) *place++ = static_cast<uint8_t>(leading);
+  Put(place, content);
+  *out = node;
+  return VELKORD_OK;
+}
+
+int32_t DerBuildFromNode(uint8_t tag, const Anybuf* source, Anybuf** out) {
+  if (source == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
+  return DerBuild(tag, NodeBytes(*source), out, source->unusedBits);
+}
+
+int32_t DerBuildFromBytes(uint8_t tag, const uint8_t* bytes, uint32_t length, Anybuf** out) {
+  if (out == nullptr) return VELKORD_NULL_ARGUMENT;
+  Bytes content;
+  VELKORD_TRY(CallerBytes(bytes, length, content));
+  return DerBuild(tag, content, out, ImpliedUnusedBits(content));
+}
+
+int32_t DerJoin(uint8_t tag, std::initializer_list<Bytes> parts, Anybuf** out) {
+  return DerJoinEach(
+      tag,
+      [&](auto visit) {
+        for (const Bytes part : parts) visit(part);
+      },
+      out);
+}
+
+int32_t DerRewrap(uint8_t tag, Bytes in, Anybuf** out) {
+  DerElements children;
+  VELKORD_TRY(children.Open(in, ReduceTag(tag)));
+  return DerBuild(tag, children.Content(), out);
+}
+
+int32_t DerSplit(DerElements& children, Anybuf** out) {
+  NodePtr head;
+  Anybuf** next = head.Out();
+  Anybuf* last = nullptr;
+  while (!children.AtEnd()) {
+    DerElement child;
+    VELKORD_TRY(children.Next(child));
+    VELKORD_TRY(DerCopyBytes(child.whole, child.tag, 0, next));
+    (*next)->prev = last;
+    last = *next;
+    next = &last->next;
+  }
+  *out = head.release();
+  return VELKORD_OK;
+}
+
+int32_t DerOpenContent(const Anybuf& source, DerContent& content) {
+  const bool isBitString = source.dataType == kBitString;
+  DerElement element;
+  VELKORD_TRY(DerParseElement(NodeBytes(source), element));
+  VELKORD_TRY(OpenElement(element, isBitString, content.bytes));
+  content.tag = element.tag;
+  content.unusedBits = isBitString ? source.unusedBits : 0;
+  return VELKORD_OK;
+}
+
+int32_t DerOpenContent(const DerElement& child, Bytes& content) {
+  return OpenElement(child, child.tag == kBitString, content);
+}
+
+int32_t DerOpenRaw(const Anybuf& source, Bytes& content) {
+  DerElement element;
+  VELKORD_TRY(DerParseElement(NodeBytes(source), element));
+  return OpenElement(element, false, content);
+}
+
+}  // namespace velkord

@@ -1,0 +1,135 @@
+// Making of nodes, each in one allocation for the node and one for its bytes at their final size;
+// and the opening of TLV nodes as views.
+//
+// Whatever takes an `Anybuf**` stores there last, and only on success. Out of memory, and an
+// element whose size does not fit 32 bits, is -1.
+#ifndef VELKORD_DER_NODE_H_
+#define VELKORD_DER_NODE_H_
+
+#include <cstdint>
+#include <cstring>
+#include <initializer_list>
+
+#include "der/element.h"
+#include "platform/owned.h"
+
+namespace velkord {
+
+// `memKind` of every node that is made here.
+inline constexpr uint32_t kMemKind = 2;
+
+// Owns a node or chain.
+using NodePtr = Owned<Anybuf, ASN1_FreeAnybuf>;
+
+// The bytes of a node; none when `data` is null.
+inline Bytes NodeBytes(const Anybuf& node) {
+  return node.data == nullptr ? Bytes() : Bytes(node.data, node.dataLen);
+}
+
+// The bytes that a caller gave. 0, or -8 for a null pointer with a length.
+inline int32_t CallerBytes(const uint8_t* bytes, uint32_t length, Bytes& out) {
+  if (bytes == nullptr && length != 0) return VELKORD_NULL_ARGUMENT;
+  out = Bytes(bytes, length);
+  return VELKORD_OK;
+}
+
+// Copies `bytes` to `place` and gives the place behind them.
+inline uint8_t* Put(uint8_t* place, Bytes bytes) {
+  if (!bytes.empty()) std::memcpy(place, bytes.data(), bytes.size());
+  return place + bytes.size();
+}
+
+// Copies `bytes` to a caller's buffer and gives their number.
+inline uint32_t CopyOut(Bytes bytes, uint8_t* out) {
+  Put(out, bytes);
+  return static_cast<uint32_t>(bytes.size());
+}
+
+// Number of unused bits that the size of the last byte implies: 0 below 2 and above 128, otherwise
+// the number of bits of one less than the byte.
+uint32_t ImpliedUnusedBits(Bytes bits);
+
+// The header of an element that stands inside another: tag and length octets.
+class DerHeader {
+ public:
+  DerHeader(uint8_t tag, uint64_t contentLength);
+  // With the unused-bits octet of a BIT STRING behind them.
+  static DerHeader ForBitString(uint32_t unusedBits, uint64_t bitsLength);
+
+  Bytes View() const { return {octets_, size_}; }
+  // Size of the whole element.
+  uint64_t Total() const { return total_; }
+
+ private:
+  uint8_t octets_[7];
+  size_t size_ = 0;
+  uint64_t total_;
+};
+
+// A node with a block of `size` bytes for the caller to fill; null when it cannot be made.
+Anybuf* DerNewNode(uint64_t size, uint32_t dataType);
+
+// A content or TLV node with a copy of `bytes`.
+int32_t DerCopyBytes(Bytes bytes, uint32_t dataType, uint32_t unusedBits, Anybuf** out);
+
+// A TLV node with a copy of the DER bytes of a BIT STRING; its unused bits are the octet behind the
+// header. Neither the tag nor the size is tested. -1 or -2 from the header, -2 without that octet.
+int32_t DerCopyBitString(Bytes in, Anybuf** out);
+
+// A copy of a node alone, all its fields but `next` and `prev` carried over; null when it cannot be
+// made.
+Anybuf* DerCopyNode(const Anybuf& node);
+
+// A TLV node whose header is written; `place` is where its `contentLength` bytes go.
+int32_t DerBuildHeader(uint8_t tag, uint64_t contentLength, Anybuf** out, uint8_t*& place);
+
+// One element from one content. A BIT STRING gets an octet with the low byte of `unusedBits` in
+// front, which no other type looks at; an INTEGER gets a zero octet in front of a first byte of
+// 0x80 or more.
+int32_t DerBuild(uint8_t tag, Bytes content, Anybuf** out, uint32_t unusedBits = 0);
+
+// The same from a caller's node or bytes. -8 for a null argument that is needed.
+int32_t DerBuildFromNode(uint8_t tag, const Anybuf* source, Anybuf** out);
+int32_t DerBuildFromBytes(uint8_t tag, const uint8_t* bytes, uint32_t length, Anybuf** out);
+
+// One element from the parts that `forEach` visits, the same each time it is called.
+template <typename ForEach>
+int32_t DerJoinEach(uint8_t tag, ForEach forEach, Anybuf** out) {
+  uint64_t length = 0;
+  forEach([&](Bytes part) { length += part.size(); });
+  Anybuf* node;
+  uint8_t* place;
+  VELKORD_TRY(DerBuildHeader(tag, length, &node, place));
+  forEach([&](Bytes part) { place = Put(place, part); });
+  *out = node;
+  return VELKORD_OK;
+}
+
+// One element from the bytes of all `parts`; an absent part is an empty view.
+int32_t DerJoin(uint8_t tag, std::initializer_list<Bytes> parts, Anybuf** out);
+
+// A finished SEQUENCE or SET, checked, back out with its length in shortest form.
+int32_t DerRewrap(uint8_t tag, Bytes in, Anybuf** out);
+
+// The children of an opened element as a chain of TLV nodes, null when there are none.
+int32_t DerSplit(DerElements& children, Anybuf** out);
+
+// The content of a TLV node, its reduced tag, and the unused bits that the node knows of.
+struct DerContent {
+  uint32_t tag = 0;
+  Bytes bytes;
+  uint32_t unusedBits = 0;
+};
+
+// The content without the octet that a BIT STRING or a positive INTEGER has in front: the first is
+// told by the node's `dataType`, the second by the tag in the bytes.
+// 0; -1 or -2 from the header; -2 for a BIT STRING without its octet.
+int32_t DerOpenContent(const Anybuf& source, DerContent& content);
+// The same for an element that was split from its parent.
+int32_t DerOpenContent(const DerElement& child, Bytes& content);
+// The same, a BIT STRING's octet left in place.
+int32_t DerOpenRaw(const Anybuf& source, Bytes& content);
+
+}  // namespace velkord
+
+#endif  // VELKORD_DER_NODE_H_

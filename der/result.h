@@ -1,0 +1,13 @@
+// Passing a failing step's code up. The codes themselves stand in the public header.
+#ifndef VELKORD_DER_RESULT_H_
+#define VELKORD_DER_RESULT_H_
+
+#include "Velkord.h"
+
+// Returns the code of `step` from the function around it unless the step succeeded.
+#define VELKORD_TRY(step)                                                         \
+  do {                                                                            \
+    if (const int32_t stepCode = (step); stepCode != VELKORD_OK) return stepCode; \
+  } while (false)
+
+#endif  // VELKORD_DER_RESULT_H_

@@ -1,0 +1,109 @@
+// UTCTime and GeneralizedTime.
+#include "der/time.h"
+
+#include <algorithm>
+
+#include "platform/local_time.h"
+
+namespace velkord {
+
+namespace {
+
+constexpr uint32_t kGeneralizedTimeType = ReduceTag(kGeneralizedTime);
+constexpr uint32_t kUtcTimeType = ReduceTag(kUtcTime);
+
+// Years are counted from 1900, as the platform does.
+constexpr int kYearBase = 1900;
+constexpr int kFirstUtcTimeYear = 70;
+constexpr size_t kMonthToSecondDigits = 10;
+
+uint8_t* PutTwoDigits(uint8_t* place, int value) {
+  *place++ = static_cast<uint8_t>('0' + value / 10);
+  *place++ = static_cast<uint8_t>('0' + value % 10);
+  return place;
+}
+
+int TwoDigits(Bytes text, size_t at) { return (text[at] - '0') * 10 + (text[at + 1] - '0'); }
+
+}  // namespace
+
+int32_t TimeWriteNode(int32_t time, uint8_t tag, Anybuf** out) {
+  if (time < 0) return VELKORD_NEGATIVE_TIME;
+  std::tm fields{};
+  if (!ToLocalTime(time, fields)) return VELKORD_OUT_OF_MEMORY;
+
+  uint8_t text[15];
+  uint8_t* end = text;
+  const int year = fields.tm_year + kYearBase;
+  if (tag == kGeneralizedTime) end = PutTwoDigits(end, year / 100);
+  end = PutTwoDigits(end, year % 100);
+  for (const int field :
+       {fields.tm_mon + 1, fields.tm_mday, fields.tm_hour, fields.tm_min, fields.tm_sec}) {
+    end = PutTwoDigits(end, field);
+  }
+  *end++ = 'Z';
+  if (DerBuild(tag, Bytes(text, end), out) != VELKORD_OK) return VELKORD_OUT_OF_MEMORY;
+  return VELKORD_OK;
+}
+
+int32_t TimeRead(Bytes in, int32_t& time) {
+  uint32_t tag;
+  uint32_t length;
+  VELKORD_TRY(DerParseTag(in, tag));
+  VELKORD_TRY(DerParseLength(in, length));
+
+  const size_t yearDigits = tag == kGeneralizedTimeType ? 4 : 2;
+  const size_t digits = yearDigits + kMonthToSecondDigits;
+  if (in.size() <= digits || in[digits] != 'Z') return VELKORD_BAD_TIME;
+  const auto isDigit = [](uint8_t octet) { return octet >= '0' && octet <= '9'; };
+  if (!std::ranges::all_of(in.first(digits), isDigit)) return VELKORD_BAD_TIME;
+
+  std::tm fields{};
+  if (yearDigits == 4) {
+    fields.tm_year = TwoDigits(in, 0) * 100 + TwoDigits(in, 2) - kYearBase;
+  } else {
+    const int year = TwoDigits(in, 0);
+    fields.tm_year = year < kFirstUtcTimeYear ? year + 100 : year;
+  }
+  fields.tm_mon = TwoDigits(in, yearDigits) - 1;
+  fields.tm_mday = TwoDigits(in, yearDigits + 2);
+  fields.tm_hour = TwoDigits(in, yearDigits + 4);
+  fields.tm_min = TwoDigits(in, yearDigits + 6);
+  fields.tm_sec = TwoDigits(in, yearDigits + 8);
+  return FromLocalTime(fields, time) ? VELKORD_OK : VELKORD_OUT_OF_MEMORY;
+}
+
+}  // namespace velkord
+
+using namespace velkord;
+
+namespace {
+
+int32_t WriteTime(const int32_t* time, uint8_t tag, Anybuf** out) {
+  if (time == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
+  return TimeWriteNode(*time, tag, out);
+}
+
+int32_t ReadTime(const Anybuf* source, uint32_t type, int32_t* time) {
+  if (source == nullptr || time == nullptr) return VELKORD_NULL_ARGUMENT;
+  if ((source->dataType & 0xFF) != type) return VELKORD_WRONG_TAG;
+  return TimeRead(NodeBytes(*source), *time);
+}
+
+}  // namespace
+
+int32_t ASN1_WriteGeneralizedTime(const int32_t* time, Anybuf** out) {
+  return WriteTime(time, kGeneralizedTime, out);
+}
+
+int32_t ASN1_WriteUtcTime(const int32_t* time, Anybuf** out) {
+  return WriteTime(time, kUtcTime, out);
+}
+
+int32_t ASN1_ReadGeneralizedTime(const Anybuf* source, int32_t* time) {
+  return ReadTime(source, kGeneralizedTimeType, time);
+}
+
+int32_t ASN1_ReadUtcTime(const Anybuf* source, int32_t* time) {
+  return ReadTime(source, kUtcTimeType, time);
+}

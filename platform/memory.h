@@ -1,0 +1,27 @@
+// The allocator of every node, block and record: the C run-time's, since callers may build and take
+// apart nodes themselves.
+#ifndef VELKORD_PLATFORM_MEMORY_H_
+#define VELKORD_PLATFORM_MEMORY_H_
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+
+namespace velkord {
+
+// A request for no bytes gives a usable block.
+inline uint8_t* AllocateBytes(size_t size) {
+  return static_cast<uint8_t*>(std::malloc(size == 0 ? 1 : size));
+}
+
+// A record or node with all fields 0 or null.
+template <typename Record>
+Record* AllocateZeroed() {
+  return static_cast<Record*>(std::calloc(1, sizeof(Record)));
+}
+
+inline void Release(void* block) { std::free(block); }
+
+}  // namespace velkord
+
+#endif  // VELKORD_PLATFORM_MEMORY_H_
