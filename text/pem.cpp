@@ -1,0 +1,96 @@
+// PEM text: DER2PEM_data_format and PEM2DER_data_format, each in one pass straight to the output.
+#include <algorithm>
+#include <cstring>
+#include <string_view>
+
+#include "Velkord.h"
+#include "text/base64.h"
+
+namespace {
+
+using velkord::Base64Decoder;
+using velkord::Base64Value;
+
+constexpr uint32_t kLineBytes = 48;
+constexpr uint32_t kLineCharacters = 64;
+constexpr uint32_t kLengthLimit = 1U << 30;
+constexpr size_t kMarkerDashes = 5;
+
+// Size of the whole text without its terminating zero. It always fits: `length` is below 2^30, and
+// strings in memory are far below 2^63.
+uint64_t PemSize(uint32_t length, std::string_view header, std::string_view footer) {
+  const uint64_t characters = (uint64_t{length} + 2) / 3 * 4;
+  const uint64_t lines = (characters + kLineCharacters - 1) / kLineCharacters;
+  uint64_t size = characters + 2 * lines;
+  for (const std::string_view marker : {header, footer}) {
+    if (!marker.empty()) size += marker.size() + 2;
+  }
+  return size;
+}
+
+char* PutLineEnd(char* place) {
+  *place++ = '\r';
+  *place++ = '\n';
+  return place;
+}
+
+char* PutMarker(char* place, std::string_view marker) {
+  if (marker.empty()) return place;
+  std::memcpy(place, marker.data(), marker.size());
+  return PutLineEnd(place + marker.size());
+}
+
+// The text between the first marker and the dash that opens the next, or all of a text without
+// dashes. False when a marker or that dash is missing.
+bool FindBody(std::string_view text, std::string_view& body) {
+  const size_t opening = text.find('-');
+  if (opening == std::string_view::npos) {
+    body = text;
+    return true;
+  }
+  if (text.size() - opening <= kMarkerDashes) return false;
+  const size_t closing = text.find('-', opening + kMarkerDashes);
+  if (closing == std::string_view::npos || text.size() - closing < kMarkerDashes) return false;
+  text.remove_prefix(closing + kMarkerDashes);
+  const size_t end = text.find('-');
+  if (end == std::string_view::npos) return false;
+  body = text.substr(0, end);
+  return true;
+}
+
+}  // namespace
+
+int32_t DER2PEM_data_format(const uint8_t* der, uint32_t length, char* out, uint32_t* outLength,
+                            const char* header, const char* footer) {
+  if (length == 0) {
+    *outLength = 0;
+    return VELKORD_OK;
+  }
+  if (length >= kLengthLimit) return VELKORD_FAILURE;
+  const uint64_t size = PemSize(length, header, footer);
+  if (size > UINT32_MAX) return VELKORD_FAILURE;
+
+  char* place = PutMarker(out, header);
+  while (length != 0) {
+    const uint32_t line = std::min(length, kLineBytes);
+    place = PutLineEnd(velkord::PutBase64(place, der, line));
+    der += line;
+    length -= line;
+  }
+  place = PutMarker(place, footer);
+  *place = '\0';
+  *outLength = static_cast<uint32_t>(size);
+  return VELKORD_OK;
+}
+
+int32_t PEM2DER_data_format(const char* pem, uint32_t length, uint8_t* out, uint32_t* outLength) {
+  std::string_view body;
+  if (!FindBody(std::string_view(pem, length), body)) return VELKORD_FAILURE;
+  Base64Decoder decoder(out);
+  for (const char c : body) {
+    const uint8_t value = Base64Value(c);
+    if (value != velkord::kNotBase64 && !decoder.Take(value)) break;
+  }
+  *outLength = decoder.Written();
+  return VELKORD_OK;
+}
