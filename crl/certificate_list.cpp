@@ -1,0 +1,28 @@
+// The signed revocation list.
+#include "x509/signed_record.h"
+
+using namespace velkord;
+
+namespace {
+
+using Shape = SignedRecord<CertificateList, &CertificateList::tbsCertList,
+                           &CertificateList::signatureAlgorithm, &CertificateList::signatureValue>;
+
+}  // namespace
+
+int32_t ASN1_CRL_SetCertificateListTBSCertList(CertificateList* record, const Anybuf* value) {
+  return Shape::SetSigned(record, value);
+}
+
+int32_t ASN1_CRL_SetCertificateListAlgorithmIdentifier(CertificateList* record,
+                                                       const Anybuf* value) {
+  return Shape::SetAlgorithm(record, value);
+}
+
+int32_t ASN1_CRL_SetCertificateListSignatureValue(CertificateList* record, const Anybuf* value) {
+  return Shape::SetSignature(record, value);
+}
+
+int32_t ASN1_CRL_CertificateListWriteData(const CertificateList* record, Anybuf** out) {
+  return Shape::WriteData(record, out);
+}

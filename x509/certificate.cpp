@@ -1,0 +1,47 @@
+// The signed certificate: made, written and decoded.
+#include "x509/signed_record.h"
+
+using namespace velkord;
+
+namespace {
+
+using Shape = SignedRecord<Certificate, &Certificate::tbsCertificate,
+                           &Certificate::signatureAlgorithm, &Certificate::signatureValue>;
+
+// A decoded certificate states no unused bits, whatever its signature held.
+int32_t MakeSignature(const DerElement& element, Anybuf** out) {
+  Bytes bits;
+  VELKORD_TRY(DerOpenContent(element, bits));
+  return DerBuild(kBitString, bits, out);
+}
+
+}  // namespace
+
+int32_t ASN1_CreateCertificate(Certificate** out) { return CreateRecord(out); }
+
+void ASN1_FreeCertificate(Certificate* record) { Shape::Free(record); }
+
+int32_t ASN1_CertificateSetTbsCertificate(Certificate* record, const Anybuf* value) {
+  return Shape::SetSigned(record, value);
+}
+
+int32_t ASN1_CertificateSetSignatureAlgorithm(Certificate* record, const Anybuf* value) {
+  return Shape::SetAlgorithm(record, value);
+}
+
+int32_t ASN1_CertificateSetSignatureValue(Certificate* record, const Anybuf* value) {
+  return Shape::SetSignature(record, value);
+}
+
+int32_t ASN1_CertificateWriteData(const Certificate* record, Anybuf** out) {
+  return Shape::WriteData(record, out);
+}
+
+int32_t ASN1_CertificateDecode(const uint8_t* bytes, uint32_t length, Certificate** out) {
+  if (bytes == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
+  Owned<Certificate, ASN1_FreeCertificate> record;
+  VELKORD_TRY(CreateRecord(record.Out()));
+  VELKORD_TRY(Shape::Fill(*record, Bytes(bytes, length), MakeSignature));
+  *out = record.release();
+  return VELKORD_OK;
+}

@@ -1,0 +1,22 @@
+// One extension as a view.
+#ifndef VELKORD_X509_EXTENSION_H_
+#define VELKORD_X509_EXTENSION_H_
+
+#include "der/node.h"
+
+namespace velkord {
+
+struct ExtensionView {
+  Bytes oid;       // Content octets of the OBJECT IDENTIFIER.
+  Bytes critical;  // The first content octet of the BOOLEAN; empty when there is none.
+  Bytes value;     // Content of the OCTET STRING.
+};
+
+// Opens the SEQUENCE of an extension. With exactly three elements the second is the BOOLEAN; with
+// any other count the second is the value.
+// 0; -1, -2 or -7 from the SEQUENCE; -1 for a missing element; -2 for a BOOLEAN without content.
+int32_t OpenExtension(Bytes in, ExtensionView& extension);
+
+}  // namespace velkord
+
+#endif  // VELKORD_X509_EXTENSION_H_

@@ -1,0 +1,155 @@
+// A caller's view of a decoded certificate: its subject listed, and one value looked up in an
+// extension. What does not parse is passed over.
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include "der/byte_string.h"
+#include "der/object_id.h"
+#include "x509/extension.h"
+#include "x509/name.h"
+#include "x509/record.h"
+
+using namespace velkord;
+
+namespace {
+
+// The TLV of the identifier under which an extension's item holds its value.
+constexpr std::array<uint8_t, 10> kValueItemId = [] {
+  std::array<uint8_t, 10> tlv{kObjectId, 8};
+  size_t at = 2;
+  ForEachObjectIdOctet("1.2.156.1.8888.148", [&](uint8_t octet) { tlv[at++] = octet; });
+  return tlv;
+}();
+
+void FreeEntries(CertEntry* entry) {
+  while (entry != nullptr) {
+    CertEntry* next = entry->next;
+    Release(entry->oid);
+    Release(entry->value);
+    Release(entry);
+    entry = next;
+  }
+}
+
+void FreeWideEntries(CertWideEntry* entry) {
+  while (entry != nullptr) {
+    CertWideEntry* next = entry->next;
+    Release(entry->block1);
+    Release(entry->block3);
+    Release(entry);
+    entry = next;
+  }
+}
+
+// Copies bytes into a block of their own; block and length stay empty when memory runs out.
+void CopyToBlock(Bytes bytes, uint8_t*& block, uint32_t& length) {
+  block = AllocateBytes(bytes.size());
+  if (block != nullptr) length = CopyOut(bytes, block);
+}
+
+// Gives an entry the value of an attribute; the value stays empty when its type is not read.
+void SetEntryValue(const DerElement& value, CertEntry& entry) {
+  const uint8_t tag = value.whole[0];
+  if (tag == kUtf8String || tag == kPrintableString) {
+    CopyToBlock(value.content, entry.value, entry.valueLen);
+  } else if (tag == kBmpString) {
+    CopyToBlock(value.content, entry.value, entry.valueLen);
+    if (entry.value != nullptr) entry.valueLen = CopyBmpText(value.content, entry.value);
+  }
+}
+
+// The content of the second element of an item whose first is the value item's identifier. False
+// for any other item.
+bool OpenValueItem(Bytes in, Bytes& content) {
+  DerElements parts;
+  DerElement id;
+  DerElement value;
+  return parts.Open(in, kSequenceType) == VELKORD_OK && parts.Next(id) == VELKORD_OK &&
+         std::ranges::equal(id.whole, kValueItemId) && parts.Next(value) == VELKORD_OK &&
+         DerOpenContent(value, content) == VELKORD_OK;
+}
+
+// Copies what the last value item of an extension's value holds.
+void CopyItemValue(Bytes extensionValue, uint8_t* value, uint32_t* valueLength) {
+  DerElements items;
+  if (items.Open(extensionValue, kSequenceType) != VELKORD_OK) return;
+  DerElement item;
+  Bytes content;
+  while (items.Next(item) == VELKORD_OK) {
+    if (OpenValueItem(item.whole, content)) *valueLength = CopyOut(content, value);
+  }
+}
+
+// The extensions of a decoded record: the children of the list inside the SEQUENCE around it.
+int32_t OpenExtensionList(const Anybuf& field, DerElements& extensions) {
+  DerElements outer;
+  DerElement list;
+  VELKORD_TRY(outer.Open(NodeBytes(field), kSequenceType));
+  VELKORD_TRY(outer.Next(list));
+  return extensions.Open(list.whole, kSequenceType);
+}
+
+}  // namespace
+
+X509Cert* X509CertCreate(X509Cert** out) {
+  auto* record = AllocateZeroed<X509Cert>();
+  if (record != nullptr && out != nullptr) *out = record;
+  return record;
+}
+
+void X509CertFree(X509Cert* record) {
+  if (record == nullptr) return;
+  for (uint8_t* block :
+       {record->block1, record->block2, record->block3, record->block4, record->block5}) {
+    Release(block);
+  }
+  ASN1_FreeTBSCertificate(record->tbs);
+  FreeEntries(record->entriesA);
+  FreeEntries(record->subjectEntries);
+  FreeWideEntries(record->entriesB);
+  Release(record);
+}
+
+int32_t X509CertGetSubject(X509Cert* record) {
+  if (record == nullptr || record->tbs == nullptr || record->tbs->subject == nullptr) {
+    return VELKORD_NULL_ARGUMENT;
+  }
+  CertEntry** tail = &record->subjectEntries;
+  while (*tail != nullptr) tail = &(*tail)->next;
+
+  DerElements names;
+  if (names.Open(NodeBytes(*record->tbs->subject), kSequenceType) != VELKORD_OK) return VELKORD_OK;
+  DerElement name;
+  while (names.Next(name) == VELKORD_OK) {
+    AttributeView attribute;
+    if (OpenFirstAttribute(name.whole, attribute) != VELKORD_OK) continue;
+    auto* entry = AllocateZeroed<CertEntry>();
+    if (entry == nullptr) return VELKORD_FAILURE;
+    CopyToBlock(attribute.type, entry->oid, entry->oidLen);
+    SetEntryValue(attribute.value, *entry);
+    *tail = entry;
+    tail = &entry->next;
+  }
+  return VELKORD_OK;
+}
+
+int32_t X509CertGetOIDValue(const X509Cert* record, const char* oidText, int32_t textLength,
+                            uint8_t* value, uint32_t* valueLength) {
+  if (record == nullptr || record->tbs == nullptr) return VELKORD_NULL_ARGUMENT;
+  const Anybuf* field = record->tbs->extensions;
+  if (field == nullptr || value == nullptr || valueLength == nullptr) return VELKORD_FAILURE;
+  std::string_view text;
+  VELKORD_TRY(CallerText(oidText, textLength, text));
+
+  DerElements extensions;
+  if (OpenExtensionList(*field, extensions) != VELKORD_OK) return VELKORD_OK;
+  DerElement element;
+  while (extensions.Next(element) == VELKORD_OK) {
+    ExtensionView extension;
+    if (OpenExtension(element.whole, extension) == VELKORD_OK && IsObjectId(extension.oid, text)) {
+      CopyItemValue(extension.value, value, valueLength);
+    }
+  }
+  return VELKORD_OK;
+}

@@ -1,0 +1,57 @@
+// SubjectPublicKeyInfo and the RSA public key that it can hold.
+#include "der/forward.h"
+#include "x509/record.h"
+
+using namespace velkord;
+
+int32_t ASN1_SetRSAPublicKey(const Anybuf* modulus, const Anybuf* exponent, Anybuf** out) {
+  return ASN1_SetValidity(modulus, exponent, out);
+}
+
+int32_t ASN1_GetRSAPublicKey(const Anybuf* source, Anybuf** outModulus, Anybuf** outExponent) {
+  if (source == nullptr || outModulus == nullptr || outExponent == nullptr) {
+    return VELKORD_NULL_ARGUMENT;
+  }
+  DerElements elements;
+  VELKORD_TRY(elements.Open(NodeBytes(*source), kSequenceType));
+  // The first number, and the last of those behind it.
+  Bytes numbers[2];
+  for (uint32_t at = 0; at < 2 || !elements.AtEnd(); ++at) {
+    DerElement element;
+    VELKORD_TRY(elements.Next(element));
+    VELKORD_TRY(DerOpenContent(element, numbers[at == 0 ? 0 : 1]));
+  }
+  NodePtr modulus;
+  VELKORD_TRY(DerBuild(kInteger, numbers[0], modulus.Out()));
+  VELKORD_TRY(DerBuild(kInteger, numbers[1], outExponent));
+  *outModulus = modulus.release();
+  return VELKORD_OK;
+}
+
+int32_t ASN1_SetSubjectPublicKeyInfo(const Anybuf* algorithm, const Anybuf* key, Anybuf** out) {
+  if (algorithm == nullptr || key == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
+  const Bytes bits = NodeBytes(*key);
+  const DerHeader header = DerHeader::ForBitString(ImpliedUnusedBits(bits), bits.size());
+  return DerJoin(kSequence, {NodeBytes(*algorithm), header.View(), bits}, out);
+}
+
+int32_t ASN1_GetSubjectPublicKeyInfo(const Anybuf* source, Anybuf** outAlgorithm, Anybuf** outKey) {
+  if (source == nullptr || outAlgorithm == nullptr || outKey == nullptr) {
+    return VELKORD_NULL_ARGUMENT;
+  }
+  DerElements elements;
+  DerElement element;
+  NodePtr algorithm;
+  Bytes bits;
+  VELKORD_TRY(elements.Open(NodeBytes(*source), kSequenceType));
+  VELKORD_TRY(elements.Next(element));
+  VELKORD_TRY(DerRewrap(kSequence, element.whole, algorithm.Out()));
+  VELKORD_TRY(elements.Next(element));
+  VELKORD_TRY(DerOpenContent(element, bits));
+  VELKORD_TRY(DerBuild(kBitString, bits, outKey));
+  *outAlgorithm = algorithm.release();
+  return VELKORD_OK;
+}
+
+VELKORD_FORWARD_FREE(ASN1_FreeSubjectPublicKeyInfo, ASN1_FreeAnybuf)
+VELKORD_FORWARD_FREE(ASN1_FreeRSAPublicKey, ASN1_FreeAnybuf)

@@ -1,0 +1,23 @@
+// The attributes of a name as views.
+#ifndef VELKORD_X509_NAME_H_
+#define VELKORD_X509_NAME_H_
+
+#include "der/node.h"
+
+namespace velkord {
+
+struct AttributeView {
+  Bytes type;  // Content octets of the OBJECT IDENTIFIER.
+  DerElement value;
+};
+
+// Opens the SEQUENCE of an attribute; elements behind the second are passed over.
+// 0; -1, -2 or -7 from the SEQUENCE; -1 for a missing element.
+int32_t OpenAttribute(Bytes in, AttributeView& attribute);
+
+// Opens the first attribute of the SET of a relative name. Codes as above, -1 for an empty SET.
+int32_t OpenFirstAttribute(Bytes in, AttributeView& attribute);
+
+}  // namespace velkord
+
+#endif  // VELKORD_X509_NAME_H_

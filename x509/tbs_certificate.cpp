@@ -1,0 +1,207 @@
+// The signed part of a certificate: made field by field, written and decoded.
+#include "der/integer.h"
+#include "der/tagging.h"
+#include "x509/record.h"
+
+using namespace velkord;
+
+namespace {
+
+using Field = Anybuf* TBSCertificate::*;
+
+constexpr uint32_t kVersionTag = 0;
+constexpr uint32_t kIssuerUniqueIdTag = 1;
+constexpr uint32_t kSubjectUniqueIdTag = 2;
+constexpr uint32_t kExtensionsTag = 3;
+
+int32_t SetUniqueId(TBSCertificate* record, Field field, uint32_t TBSCertificate::*flag,
+                    const Anybuf* value, uint32_t tagNumber) {
+  if (record == nullptr || value == nullptr) return VELKORD_NULL_ARGUMENT;
+  NodePtr node;
+  VELKORD_TRY(ASN1_WriteImplicit(value, tagNumber, node.Out()));
+  ReplaceField(record->*field, node);
+  record->*flag = 1;
+  return VELKORD_OK;
+}
+
+// The optional elements of a TBSCertificate as they are read.
+struct Optionals {
+  bool hasIssuerUniqueId = false;
+  bool hasSubjectUniqueId = false;
+  bool hasExtensions = false;
+  Bytes issuerUniqueId;
+  Bytes subjectUniqueId;
+  Bytes extensions;
+};
+
+// The bits of a unique identifier: of a constructed element its first inner element as it stands.
+int32_t OpenUniqueId(const DerElement& element, Bytes& bits) {
+  if (!IsImplicitConstructed(element.tag)) return DerOpenImplicit(element, bits);
+  DerElements inner;
+  VELKORD_TRY(inner.OpenContent(element.content));
+  if (inner.AtEnd()) return VELKORD_SIZE_MISMATCH;
+  DerElement first;
+  VELKORD_TRY(inner.Next(first));
+  bits = first.whole;
+  return VELKORD_OK;
+}
+
+// The low five bits of a tag alone tell which element it is; the last of its kind counts.
+int32_t OpenOptional(const DerElement& element, Optionals& optionals) {
+  switch (element.tag & kTagNumberMask) {
+    case kIssuerUniqueIdTag:
+      optionals.hasIssuerUniqueId = true;
+      return OpenUniqueId(element, optionals.issuerUniqueId);
+    case kSubjectUniqueIdTag:
+      optionals.hasSubjectUniqueId = true;
+      return OpenUniqueId(element, optionals.subjectUniqueId);
+    case kExtensionsTag:
+      optionals.hasExtensions = true;
+      return DerOpenContent(element, optionals.extensions);
+    default:
+      return VELKORD_OK;
+  }
+}
+
+int32_t BuildUniqueId(uint32_t tagNumber, Bytes bits, Anybuf** out) {
+  const auto unusedBits = static_cast<uint8_t>(ImpliedUnusedBits(bits));
+  return DerJoin(static_cast<uint8_t>(kContextPrimitive | tagNumber), {{&unusedBits, 1}, bits},
+                 out);
+}
+
+int32_t SetOptionals(const Optionals& optionals, TBSCertificate& record) {
+  if (optionals.hasIssuerUniqueId) {
+    VELKORD_TRY(
+        BuildUniqueId(kIssuerUniqueIdTag, optionals.issuerUniqueId, &record.issuerUniqueID));
+    record.hasIssuerUniqueID = 1;
+  }
+  if (optionals.hasSubjectUniqueId) {
+    VELKORD_TRY(
+        BuildUniqueId(kSubjectUniqueIdTag, optionals.subjectUniqueId, &record.subjectUniqueID));
+    record.hasSubjectUniqueID = 1;
+  }
+  if (optionals.hasExtensions) {
+    VELKORD_TRY(DerBuild(kSequence, optionals.extensions, &record.extensions));
+    record.hasExtensions = 1;
+  }
+  return VELKORD_OK;
+}
+
+int32_t Fill(TBSCertificate& record, DerElements& elements) {
+  DerElement element;
+  Bytes content;
+  // The first element is the version whatever its tag, which stays.
+  VELKORD_TRY(elements.Next(element));
+  VELKORD_TRY(DerOpenContent(element, content));
+  VELKORD_TRY(DerBuild(ExplicitTag(element.tag), content, &record.versionNode));
+  VELKORD_TRY(elements.Next(element));
+  VELKORD_TRY(DerOpenContent(element, content));
+  VELKORD_TRY(DerBuild(kInteger, content, &record.serialNumber));
+  for (const Field field :
+       {&TBSCertificate::signature, &TBSCertificate::issuer, &TBSCertificate::validity,
+        &TBSCertificate::subject, &TBSCertificate::subjectPublicKeyInfo}) {
+    VELKORD_TRY(elements.Next(element));
+    VELKORD_TRY(DerRewrap(kSequence, element.whole, &(record.*field)));
+  }
+  Optionals optionals;
+  while (!elements.AtEnd()) {
+    VELKORD_TRY(elements.Next(element));
+    VELKORD_TRY(OpenOptional(element, optionals));
+  }
+  return SetOptionals(optionals, record);
+}
+
+}  // namespace
+
+int32_t ASN1_CreateTBSCertificate(TBSCertificate** out) { return CreateRecord(out); }
+
+void ASN1_FreeTBSCertificate(TBSCertificate* record) {
+  FreeRecord<&TBSCertificate::versionNode, &TBSCertificate::serialNumber,
+             &TBSCertificate::signature, &TBSCertificate::issuer, &TBSCertificate::validity,
+             &TBSCertificate::subject, &TBSCertificate::subjectPublicKeyInfo,
+             &TBSCertificate::issuerUniqueID, &TBSCertificate::subjectUniqueID,
+             &TBSCertificate::extensions>(record);
+}
+
+int32_t ASN1_TBSCertificateSetVersion(TBSCertificate* record, uint32_t version) {
+  if (record == nullptr) return VELKORD_NULL_ARGUMENT;
+  const IntegerOctets octets(version);
+  const DerHeader integer(kInteger, octets.View().size());
+  NodePtr node;
+  VELKORD_TRY(DerJoin(ExplicitTag(kVersionTag), {integer.View(), octets.View()}, node.Out()));
+  ReplaceField(record->versionNode, node);
+  record->version = version;
+  return VELKORD_OK;
+}
+
+int32_t ASN1_TBSCertificateSetSerialNumber(TBSCertificate* record, const uint8_t* bytes,
+                                           uint32_t length) {
+  if (record == nullptr) return VELKORD_NULL_ARGUMENT;
+  NodePtr node;
+  VELKORD_TRY(ASN1_WriteIntegerArrayFromBytes(bytes, length, node.Out()));
+  ReplaceField(record->serialNumber, node);
+  return VELKORD_OK;
+}
+
+int32_t ASN1_TBSCertificateSetSignatureAlg(TBSCertificate* record, const Anybuf* value) {
+  return SetSequence(record, &TBSCertificate::signature, value);
+}
+
+int32_t ASN1_TBSCertificateSetIssuer(TBSCertificate* record, const Anybuf* value) {
+  return SetSequence(record, &TBSCertificate::issuer, value);
+}
+
+int32_t ASN1_TBSCertificateSetValidity(TBSCertificate* record, const Anybuf* value) {
+  return SetSequence(record, &TBSCertificate::validity, value);
+}
+
+int32_t ASN1_TBSCertificateSetSubject(TBSCertificate* record, const Anybuf* value) {
+  return SetSequence(record, &TBSCertificate::subject, value);
+}
+
+int32_t ASN1_TBSCertificateSetSubjectPublicKeyInfo(TBSCertificate* record, const Anybuf* value) {
+  return SetSequence(record, &TBSCertificate::subjectPublicKeyInfo, value);
+}
+
+int32_t ASN1_TBSCertificateSetIssuerUniqueID(TBSCertificate* record, const Anybuf* value) {
+  return SetUniqueId(record, &TBSCertificate::issuerUniqueID, &TBSCertificate::hasIssuerUniqueID,
+                     value, kIssuerUniqueIdTag);
+}
+
+int32_t ASN1_TBSCertificateSetSubjectUniqueID(TBSCertificate* record, const Anybuf* value) {
+  return SetUniqueId(record, &TBSCertificate::subjectUniqueID, &TBSCertificate::hasSubjectUniqueID,
+                     value, kSubjectUniqueIdTag);
+}
+
+int32_t ASN1_TBSCertificateSetExtensions(TBSCertificate* record, const Anybuf* value) {
+  if (record == nullptr) return VELKORD_NULL_ARGUMENT;
+  NodePtr node;
+  VELKORD_TRY(ASN1_WriteExplicit(value, kExtensionsTag, node.Out()));
+  ReplaceField(record->extensions, node);
+  record->hasExtensions = 1;
+  return VELKORD_OK;
+}
+
+int32_t ASN1_TBSCertificateWriteData(const TBSCertificate* record, Anybuf** out) {
+  if (record == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
+  const auto optional = [](uint32_t flag, const Anybuf* field) {
+    return flag == 1 ? field : &kAbsentField;
+  };
+  return JoinFields({record->versionNode, record->serialNumber, record->signature, record->issuer,
+                     record->validity, record->subject, record->subjectPublicKeyInfo,
+                     optional(record->hasIssuerUniqueID, record->issuerUniqueID),
+                     optional(record->hasSubjectUniqueID, record->subjectUniqueID),
+                     optional(record->hasExtensions, record->extensions)},
+                    out);
+}
+
+int32_t ASN1_TBSCertificateDecode(const Anybuf* source, TBSCertificate** out) {
+  if (source == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
+  DerElements elements;
+  VELKORD_TRY(elements.Open(NodeBytes(*source), kSequenceType));
+  Owned<TBSCertificate, ASN1_FreeTBSCertificate> record;
+  VELKORD_TRY(CreateRecord(record.Out()));
+  VELKORD_TRY(Fill(*record, elements));
+  *out = record.release();
+  return VELKORD_OK;
+}
