@@ -1,0 +1,18 @@
+// Calls of the library's functions by name, with arguments and results as text.
+#ifndef VELKORD_TESTS_CALLS_H_
+#define VELKORD_TESTS_CALLS_H_
+
+#include <functional>
+#include <map>
+
+#include "invocation.h"
+
+using Callers = std::map<std::string, std::function<std::string(const Arguments&)>>;
+
+extern const Callers kCertificateCallers;
+
+// The results of a call, or its code. Nodes and bytes are written as in `hex.h`, text as it stands
+// and numbers in decimal or with 0x.
+std::string Call(const std::string& function, const Arguments& arguments);
+
+#endif  // VELKORD_TESTS_CALLS_H_

@@ -1,0 +1,65 @@
+#include "hex.h"
+
+#include <sstream>
+
+ByteVector FromHex(const std::string& hex) {
+  ByteVector bytes;
+  std::istringstream octets(hex);
+  for (std::string octet; octets >> octet;) {
+    if (octet[0] == '"') {
+      bytes.insert(bytes.end(), octet.begin() + 1, octet.end() - 1);
+      continue;
+    }
+    const size_t count = octet.size() > 3 ? std::stoul(octet.substr(3)) : 1;
+    bytes.insert(bytes.end(), count, static_cast<uint8_t>(std::stoul(octet, nullptr, 16)));
+  }
+  return bytes;
+}
+
+std::string ToHex(const uint8_t* bytes, size_t size) {
+  constexpr char kDigits[] = "0123456789ABCDEF";
+  std::string hex;
+  for (size_t at = 0; at < size; ++at) {
+    if (at != 0) hex += ' ';
+    hex += kDigits[bytes[at] >> 4];
+    hex += kDigits[bytes[at] & 15];
+  }
+  return hex;
+}
+
+NodePtr ToNode(const std::string& text) {
+  if (text == "none") return nullptr;
+  const size_t colon = text.find(": ");
+  const ByteVector bytes = FromHex(colon == std::string::npos ? text : text.substr(colon + 1));
+  Anybuf* node = nullptr;
+  EXPECT_EQ(ASN1_CreateAnybuf(bytes.data(), Size(bytes), 0, &node), 0);
+  if (colon == std::string::npos) {
+    const uint32_t tag = bytes.empty() ? 0 : bytes[0];
+    node->dataType = tag < 0x80 ? tag & 0x1F : tag;
+  } else {
+    const size_t slash = text.find('/');
+    node->dataType = static_cast<uint32_t>(std::stoul(text));
+    if (slash < colon) node->unusedBits = static_cast<uint32_t>(std::stoul(text.substr(slash + 1)));
+  }
+  return NodePtr(node);
+}
+
+std::string Describe(const Anybuf* chain) {
+  std::string text;
+  const Anybuf* last = nullptr;
+  for (const Anybuf* node = chain; node != nullptr; last = node, node = node->next) {
+    EXPECT_EQ(node->memKind, 2U);
+    EXPECT_EQ(node->prev, last);
+    if (last != nullptr) text += " | ";
+    text += std::to_string(node->dataType);
+    if (node->unusedBits != 0) text.append("/").append(std::to_string(node->unusedBits));
+    text.append(": ").append(ToHex(node->data, node->dataLen));
+  }
+  return chain == nullptr ? "none" : text;
+}
+
+std::string Buffer::Text() const {
+  const size_t written = size == kNoSize ? 0 : size;
+  for (size_t at = written; at < bytes.size(); ++at) EXPECT_EQ(bytes[at], kUntouched) << at;
+  return size == kNoSize ? "kept" : ToHex(bytes.data(), written);
+}

@@ -1,0 +1,127 @@
+// A call of a library function whose arguments come from text and whose results become text. What
+// an argument is for follows from its type and place: bytes and text are followed by their length,
+// an out buffer by its size.
+#ifndef VELKORD_TESTS_INVOCATION_H_
+#define VELKORD_TESTS_INVOCATION_H_
+
+#include <list>
+#include <tuple>
+#include <type_traits>
+
+#include "hex.h"
+
+using Arguments = std::vector<std::string>;
+
+class Invocation {
+ public:
+  // With the out argument of number `nulled` a null pointer.
+  explicit Invocation(const Arguments& in, size_t nulled = SIZE_MAX) : in_(in), nulled_(nulled) {}
+
+  template <typename Result, typename... Parameters>
+  int32_t Run(Result (*function)(Parameters...)) {
+    std::tuple<Parameters...> arguments{Take(static_cast<Parameters*>(nullptr))...};
+    if constexpr (std::is_void_v<Result>) {
+      std::apply(function, arguments);
+      return 0;
+    } else {
+      return std::apply(function, arguments);
+    }
+  }
+
+  // Number of out arguments.
+  size_t OutCount() const { return outs_.size(); }
+
+  // All out arguments, " ; " between them; `kept` for one that was left alone.
+  std::string Results();
+
+ private:
+  struct Out {
+    explicit Out(char kindOfOut) : kind(kindOfOut) {}
+    char kind;  // 'n'ode, 'b'ytes, 't'ext or 'i'nteger.
+    Anybuf untouched{};
+    Anybuf* node = &untouched;
+    Buffer buffer;
+    bool sized = false;
+    int32_t integer = kUntouchedInteger;
+  };
+
+  static constexpr int32_t kUntouchedInteger = 99;
+
+  Out* AddOut(char kind) {
+    outs_.emplace_back(kind);
+    return outs_.size() - 1 == nulled_ ? nullptr : &outs_.back();
+  }
+
+  const std::string& Next() { return at_ < in_.size() ? in_[at_++] : none_; }
+
+  template <typename Integer>
+  Integer TakeInteger() {
+    const bool isLength = length_ >= 0;
+    const int64_t value = isLength ? length_ : std::stoll(Next(), nullptr, 0);
+    length_ = -1;
+    return static_cast<Integer>(value);
+  }
+
+  uint32_t Take(uint32_t*) { return TakeInteger<uint32_t>(); }
+  int32_t Take(int32_t*) { return TakeInteger<int32_t>(); }
+  uint8_t Take(uint8_t*) { return TakeInteger<uint8_t>(); }
+
+  const Anybuf* Take(const Anybuf**) { return nodes_.emplace_back(ToNode(Next())).get(); }
+
+  const int32_t* Take(const int32_t**) {
+    return &integers_.emplace_back(static_cast<int32_t>(std::stoll(Next(), nullptr, 0)));
+  }
+
+  const uint8_t* Take(const uint8_t**) {
+    const std::string& text = Next();
+    const ByteVector& bytes = bytes_.emplace_back(text == "null" ? ByteVector(1) : FromHex(text));
+    length_ = static_cast<int64_t>(bytes.size());
+    return text == "null" ? nullptr : bytes.data();
+  }
+
+  // A line end in a text is written as `|`.
+  const char* Take(const char**);
+
+  Anybuf** Take(Anybuf***) {
+    Out* out = AddOut('n');
+    return out == nullptr ? nullptr : &out->node;
+  }
+
+  uint8_t* Take(uint8_t**) {
+    Out* out = AddOut('b');
+    return out == nullptr ? nullptr : out->buffer.Data();
+  }
+
+  char* Take(char**) {
+    Out* out = AddOut('t');
+    return out == nullptr ? nullptr : reinterpret_cast<char*>(out->buffer.Data());
+  }
+
+  int32_t* Take(int32_t**) {
+    Out* out = AddOut('i');
+    return out == nullptr ? nullptr : &out->integer;
+  }
+
+  uint32_t* Take(uint32_t**) {
+    const bool isSize = !outs_.empty() && !outs_.back().sized &&
+                        (outs_.back().kind == 'b' || outs_.back().kind == 't');
+    if (!isSize) return reinterpret_cast<uint32_t*>(Take(static_cast<int32_t**>(nullptr)));
+    outs_.back().sized = true;
+    return &outs_.back().buffer.size;
+  }
+
+  static std::string Result(Out& out);
+
+  const Arguments& in_;
+  const size_t nulled_;
+  const std::string none_;
+  size_t at_ = 0;
+  int64_t length_ = -1;
+  std::list<NodePtr> nodes_;
+  std::list<ByteVector> bytes_;
+  std::list<std::string> texts_;
+  std::list<int32_t> integers_;
+  std::list<Out> outs_;
+};
+
+#endif  // VELKORD_TESTS_INVOCATION_H_
