@@ -1,0 +1,115 @@
+#include "certificate_parts.h"
+
+#include <string>
+
+#include "result_codes.h"
+
+namespace {
+
+constexpr uint32_t kIntegerTag = 2;
+constexpr uint32_t kVersionTag = 0xA0;
+
+TbsPtr DecodeTbs(const Anybuf& source) {
+  TbsPtr tbs;
+  const int32_t code = ASN1_TBSCertificateDecode(&source, Out(tbs));
+  if (code == VELKORD_OK && tbs->versionNode->dataType == kVersionTag) return tbs;
+
+  // Version 1 is the default value, so its element is left out and the serial number comes first,
+  // where the decoder looks for the version.
+  NodePtr elements;
+  Check(ASN1_ReadSequence(&source, Out(elements)), "split the signed part");
+  const bool isVersion1 = elements != nullptr && elements->dataType == kIntegerTag;
+  Fail(isVersion1 ? "decode the signed part, which has no version element (version 1)"
+                  : "decode the signed part",
+       code == VELKORD_OK ? VELKORD_WRONG_TAG : code);
+}
+
+uint32_t ReadVersion(const TBSCertificate& tbs) {
+  NodePtr number;
+  uint32_t tag = 0;
+  uint32_t version = 0;
+  Check(ASN1_ReadExplicit(tbs.versionNode, Out(number), &tag), "open the version");
+  Check(ASN1_ReadInteger(number.get(), &version), "read the version");
+  return version;
+}
+
+std::vector<uint8_t> ReadSerialNumber(const TBSCertificate& tbs) {
+  std::vector<uint8_t> bytes(tbs.serialNumber->dataLen);
+  uint32_t length = 0;
+  Check(ASN1_ReadIntegerArrayToBytes(tbs.serialNumber, bytes.data(), &length),
+        "read the serial number");
+  bytes.resize(length);
+  return bytes;
+}
+
+NodePtr RebuildTbs(const CertificateParts& parts) {
+  const TBSCertificate& from = parts.Tbs();
+  TbsPtr tbs;
+  Check(ASN1_CreateTBSCertificate(Out(tbs)), "create the signed part");
+  Check(ASN1_TBSCertificateSetVersion(tbs.get(), parts.version), "set the version");
+  Check(ASN1_TBSCertificateSetSerialNumber(tbs.get(), parts.serialNumber.data(),
+                                           Length32(parts.serialNumber.size())),
+        "set the serial number");
+  Check(ASN1_TBSCertificateSetSignatureAlg(tbs.get(), from.signature),
+        "set the signature algorithm");
+  Check(ASN1_TBSCertificateSetIssuer(tbs.get(), from.issuer), "set the issuer");
+  Check(ASN1_TBSCertificateSetValidity(tbs.get(), from.validity), "set the validity");
+  Check(ASN1_TBSCertificateSetSubject(tbs.get(), from.subject), "set the subject");
+  Check(ASN1_TBSCertificateSetSubjectPublicKeyInfo(tbs.get(), from.subjectPublicKeyInfo),
+        "set the public key");
+  if (from.hasIssuerUniqueID == 1) {
+    Check(ASN1_TBSCertificateSetIssuerUniqueID(tbs.get(), from.issuerUniqueID),
+          "set the issuer's unique identifier");
+  }
+  if (from.hasSubjectUniqueID == 1) {
+    Check(ASN1_TBSCertificateSetSubjectUniqueID(tbs.get(), from.subjectUniqueID),
+          "set the subject's unique identifier");
+  }
+  if (const NodePtr list = ReadExtensionList(from)) {
+    Check(ASN1_TBSCertificateSetExtensions(tbs.get(), list.get()), "set the extensions");
+  }
+  NodePtr written;
+  Check(ASN1_TBSCertificateWriteData(tbs.get(), Out(written)), "write the signed part");
+  return written;
+}
+
+}  // namespace
+
+CertificateParts ReadCertificateParts(Bytes der) {
+  CertificateParts parts;
+  Check(ASN1_CertificateDecode(der.data(), Length32(der.size()), Out(parts.certificate)),
+        "decode the certificate");
+  TbsPtr tbs = DecodeTbs(*parts.certificate->tbsCertificate);
+  parts.version = ReadVersion(*tbs);
+  parts.serialNumber = ReadSerialNumber(*tbs);
+
+  parts.view.reset(X509CertCreate(nullptr));
+  if (parts.view == nullptr) Fail("create the view", VELKORD_OUT_OF_MEMORY);
+  parts.view->tbs = tbs.release();
+  Check(X509CertGetSubject(parts.view.get()), "list the subject");
+  return parts;
+}
+
+NodePtr RebuildCertificate(const CertificateParts& parts) {
+  const NodePtr tbs = RebuildTbs(parts);
+  CertificatePtr certificate;
+  Check(ASN1_CreateCertificate(Out(certificate)), "create the certificate");
+  Check(ASN1_CertificateSetTbsCertificate(certificate.get(), tbs.get()), "set the signed part");
+  Check(ASN1_CertificateSetSignatureAlgorithm(certificate.get(),
+                                              parts.certificate->signatureAlgorithm),
+        "set the certificate's signature algorithm");
+  Check(ASN1_CertificateSetSignatureValue(certificate.get(), parts.certificate->signatureValue),
+        "set the signature");
+  NodePtr written;
+  Check(ASN1_CertificateWriteData(certificate.get(), Out(written)), "write the certificate");
+  return written;
+}
+
+NodePtr ReadExtensionList(const TBSCertificate& tbs) {
+  if (tbs.hasExtensions != 1) return nullptr;
+  // A decoded record holds the list one SEQUENCE deeper than the setter takes it.
+  NodePtr list;
+  Check(ASN1_ReadSequence(tbs.extensions, Out(list)), "open the extensions");
+  if (list == nullptr) Fail("open the extensions", VELKORD_FAILURE);
+  return list;
+}

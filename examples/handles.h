@@ -1,0 +1,42 @@
+// Owning handles for what the library hands out, so that every path releases it.
+#ifndef VELKORD_EXAMPLES_HANDLES_H_
+#define VELKORD_EXAMPLES_HANDLES_H_
+
+#include <memory>
+
+#include "Velkord.h"
+
+// The deleter of a handle whose object goes back through `kFree`.
+template <auto kFree>
+struct FreeWith {
+  template <typename Object>
+  void operator()(Object* object) const {
+    kFree(object);
+  }
+};
+
+// A node, or the head of a chain.
+using NodePtr = std::unique_ptr<Anybuf, FreeWith<ASN1_FreeAnybuf>>;
+using ObjectIdPtr = std::unique_ptr<ObjectID, FreeWith<ASN1_FreeObjectID>>;
+using TbsPtr = std::unique_ptr<TBSCertificate, FreeWith<ASN1_FreeTBSCertificate>>;
+using CertificatePtr = std::unique_ptr<Certificate, FreeWith<ASN1_FreeCertificate>>;
+using X509CertPtr = std::unique_ptr<X509Cert, FreeWith<X509CertFree>>;
+
+// Stands for a handle in the call of a function with an out pointer. The handle has the object once
+// the whole statement of the call has ended.
+template <typename Handle>
+class Out {
+ public:
+  explicit Out(Handle& handle) : handle_(handle) {}
+  ~Out() { handle_.reset(object_); }
+  Out(const Out&) = delete;
+  Out& operator=(const Out&) = delete;
+
+  operator typename Handle::pointer *() { return &object_; }
+
+ private:
+  Handle& handle_;
+  typename Handle::pointer object_ = nullptr;
+};
+
+#endif  // VELKORD_EXAMPLES_HANDLES_H_

@@ -1,0 +1,20 @@
+// Bytes as text that is safe to show.
+#ifndef VELKORD_EXAMPLES_READABLE_TEXT_H_
+#define VELKORD_EXAMPLES_READABLE_TEXT_H_
+
+#include <cstdint>
+#include <span>
+#include <string>
+
+using Bytes = std::span<const uint8_t>;
+
+// Reads the character at the front of UTF-8 text. Returns the number of its bytes, or 0 when there
+// is none or the bytes are no Unicode character.
+size_t ReadCharacter(Bytes text, uint32_t& code);
+
+// The text with each control character, each byte that is no UTF-8, and the backslash as "\xNN".
+std::string EscapedText(Bytes text);
+
+std::string HexText(Bytes bytes);
+
+#endif  // VELKORD_EXAMPLES_READABLE_TEXT_H_
