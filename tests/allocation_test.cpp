@@ -3,11 +3,13 @@
 
 #include "sample.h"
 
+// NOLINTBEGIN(bugprone-reserved-identifier): the C library's names for its own allocator.
 extern "C" {
 void* __libc_malloc(size_t size);
 void* __libc_calloc(size_t count, size_t size);
 void __libc_free(void* block);
 }
+// NOLINTEND(bugprone-reserved-identifier)
 
 namespace {
 

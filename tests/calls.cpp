@@ -72,7 +72,8 @@ std::string TextToObjectId(const Arguments& in) {
   const std::string text = in.empty() ? "" : in[0];
   uint8_t out[32] = {};
   uint32_t length = 99;
-  const int32_t result = ASN1_OBJECT_a2d(out, &length, text.data(), static_cast<int32_t>(text.size()));
+  const int32_t result =
+      ASN1_OBJECT_a2d(out, &length, text.data(), static_cast<int32_t>(text.size()));
   return std::to_string(result) + " " + std::to_string(length) + ": " +
          ToHex(out, static_cast<size_t>(result));
 }

@@ -22,8 +22,8 @@ uint32_t Converted(iconv_t converter, uint32_t gb) {
 }
 
 TEST(Gb2312, HasTheRowsOfThePublishedMappingAndNoOther) {
-  const iconv_t converter = iconv_open("UCS-4BE", "GB2312");
-  ASSERT_NE(converter, reinterpret_cast<iconv_t>(-1));
+  iconv_t converter = iconv_open("UCS-4BE", "GB2312");
+  ASSERT_NE(reinterpret_cast<intptr_t>(converter), -1);
   std::vector<uint32_t> gbOf(0x10000, 0);
   size_t rows = 0;
   for (uint32_t gb = 0; gb <= 0xFFFF; ++gb) {
