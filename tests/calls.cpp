@@ -45,13 +45,20 @@ Caller Mapping(uint32_t (*function)(uint32_t)) {
   return [=](const Arguments& in) { return std::to_string(function(Number(in[0]))); };
 }
 
+// Appends an element twice. An appended node carries `memKind` over and has no `prev`.
 Caller Adder(void (*add)(const Anybuf*, Anybuf*)) {
   return [=](const Arguments& in) {
+    const NodePtr element = ToNode(in[0]);
     const NodePtr chain = ToNode(in[1]);
-    add(ToNode(in[0]).get(), chain.get());
-    if (chain != nullptr && chain->next != nullptr) {
-      EXPECT_EQ(chain->next->prev, nullptr);
-      chain->next->prev = chain.get();
+    if (element != nullptr) element->memKind = 9;
+    add(element.get(), chain.get());
+    add(element.get(), chain.get());
+    Anybuf* last = chain.get();
+    for (Anybuf* node = last; node != nullptr && (node = node->next) != nullptr; last = node) {
+      EXPECT_EQ(node->memKind, 9U);
+      EXPECT_EQ(node->prev, nullptr);
+      node->memKind = 2;
+      node->prev = last;
     }
     return Describe(chain.get());
   };

@@ -48,13 +48,12 @@ bool FindBody(std::string_view text, std::string_view& body) {
     body = text;
     return true;
   }
-  if (text.size() - opening <= kMarkerDashes) return false;
   const size_t closing = text.find('-', opening + kMarkerDashes);
-  if (closing == std::string_view::npos || text.size() - closing < kMarkerDashes) return false;
-  text.remove_prefix(closing + kMarkerDashes);
-  const size_t end = text.find('-');
+  if (closing == std::string_view::npos) return false;
+  const size_t start = closing + kMarkerDashes;
+  const size_t end = text.find('-', start);
   if (end == std::string_view::npos) return false;
-  body = text.substr(0, end);
+  body = text.substr(start, end - start);
   return true;
 }
 
