@@ -39,13 +39,11 @@ std::string DecodeCertificate(const Arguments& in) {
   return text;
 }
 
-struct FreeInspection {
-  void operator()(X509Cert* record) const { X509CertFree(record); }
-};
+using InspectionPtr = std::unique_ptr<X509Cert, FreeWith<X509CertFree>>;
 
 // An inspection record over a subject and extensions.
-std::unique_ptr<X509Cert, FreeInspection> Inspect(NodePtr subject, NodePtr extensions) {
-  std::unique_ptr<X509Cert, FreeInspection> record(X509CertCreate(nullptr));
+InspectionPtr Inspect(NodePtr subject, NodePtr extensions) {
+  InspectionPtr record(X509CertCreate(nullptr));
   EXPECT_EQ(ASN1_CreateTBSCertificate(&record->tbs), 0);
   record->tbs->subject = subject.release();
   record->tbs->extensions = extensions.release();
@@ -69,10 +67,11 @@ std::string ListSubject(const Arguments& in) {
 // An OID as text, and the content of an `extensions` field.
 std::string LookUp(const Arguments& in) {
   const auto record = Inspect(nullptr, in[1] == "none" ? nullptr : Sequence(in[1]));
-  return Copied([&](Buffer* out) {
-    return X509CertGetOIDValue(record.get(), in[0].data(), static_cast<int32_t>(in[0].size()),
-                               out->Data(), &out->size);
-  });
+  Buffer out;
+  const int32_t code = X509CertGetOIDValue(
+      record.get(), in[0].data(), static_cast<int32_t>(in[0].size()), out.Data(), &out.size);
+  EXPECT_TRUE(code == 0 || out.Text() == "kept");
+  return code == 0 ? out.Text() : std::to_string(code);
 }
 
 // The same for the items in the value of the extension 1.2.3.4, the second of two.

@@ -5,11 +5,6 @@
 
 namespace {
 
-struct TbsDelete {
-  void operator()(TBSCertificate* record) const { ASN1_FreeTBSCertificate(record); }
-};
-using TbsPtr = std::unique_ptr<TBSCertificate, TbsDelete>;
-
 std::string Written(const TbsPtr& record) {
   return Made([&](Anybuf** out) { return ASN1_TBSCertificateWriteData(record.get(), out); });
 }
@@ -66,11 +61,6 @@ TEST(TbsCertificate, IsBuiltFieldByField) {
   record->validity = nullptr;
   EXPECT_EQ(Written(record), "-8");
 }
-
-struct CertificateDelete {
-  void operator()(Certificate* record) const { ASN1_FreeCertificate(record); }
-};
-using CertificatePtr = std::unique_ptr<Certificate, CertificateDelete>;
 
 TEST(Certificate, IsBuiltAndDecoded) {
   Certificate* out = nullptr;

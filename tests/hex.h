@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <memory>
 #include <string>
 #include <vector>
@@ -13,10 +12,17 @@
 
 using ByteVector = std::vector<uint8_t>;
 
-struct FreeNode {
-  void operator()(Anybuf* node) const { ASN1_FreeAnybuf(node); }
+// The deleter of an object that goes back through `kFree`.
+template <auto kFree>
+struct FreeWith {
+  template <typename Object>
+  void operator()(Object* object) const {
+    kFree(object);
+  }
 };
-using NodePtr = std::unique_ptr<Anybuf, FreeNode>;
+using NodePtr = std::unique_ptr<Anybuf, FreeWith<ASN1_FreeAnybuf>>;
+using TbsPtr = std::unique_ptr<TBSCertificate, FreeWith<ASN1_FreeTBSCertificate>>;
+using CertificatePtr = std::unique_ptr<Certificate, FreeWith<ASN1_FreeCertificate>>;
 
 // Hexadecimal octets with blanks between them, "05 00", to bytes and back. `FF*200` is 200 octets,
 // and
@@ -33,21 +39,16 @@ NodePtr ToNode(const std::string& text);
 // A chain as text, its nodes as above with " | " between them.
 std::string Describe(const Anybuf* chain);
 
-// What a call that makes nodes gives: the nodes as text, " ; " between them and `kept` for an out
-// pointer that it left alone; or its code. A failing call must leave all out pointers alone.
-template <size_t kCount = 1, typename Call>
+// What a call that makes a node gives: the node as text, or its code. A failing call must leave the
+// out pointer alone.
+template <typename Call>
 std::string Made(Call call) {
   Anybuf untouched{};
-  std::array<Anybuf*, kCount> out;
-  out.fill(&untouched);
-  const int32_t code = call(out.data());
-  std::string text;
-  for (Anybuf* node : out) {
-    EXPECT_TRUE(code == 0 || node == &untouched);
-    if (!text.empty()) text += " ; ";
-    text += node == &untouched ? "kept" : Describe(NodePtr(node).get());
-  }
-  return code != 0 ? std::to_string(code) : text;
+  Anybuf* node = &untouched;
+  const int32_t code = call(&node);
+  if (code == 0) return Describe(NodePtr(node).get());
+  EXPECT_EQ(node, &untouched);
+  return std::to_string(code);
 }
 
 // A caller's buffer, larger than any case fills it.
@@ -61,20 +62,5 @@ struct Buffer {
   // Its content, `kept` when no size was set. Nothing may be written behind that.
   std::string Text() const;
 };
-
-// What a call that fills buffers gives: their contents, " ; " between them, or its code. A failing
-// call must leave them alone.
-template <size_t kCount = 1, typename Call>
-std::string Copied(Call call) {
-  std::array<Buffer, kCount> out;
-  const int32_t code = call(out.data());
-  std::string text;
-  for (const Buffer& buffer : out) {
-    EXPECT_TRUE(code == 0 || buffer.Text() == "kept");
-    if (&buffer != out.data()) text += " ; ";
-    text += buffer.Text();
-  }
-  return code != 0 ? std::to_string(code) : text;
-}
 
 #endif  // VELKORD_TESTS_HEX_H_
