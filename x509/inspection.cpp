@@ -22,21 +22,12 @@ constexpr std::array<uint8_t, 10> kValueItemId = [] {
   return tlv;
 }();
 
-void FreeEntries(CertEntry* entry) {
+// Releases a list of entries and the blocks that they hold.
+template <auto... kBlocks, typename Entry>
+void FreeEntries(Entry* entry) {
   while (entry != nullptr) {
-    CertEntry* next = entry->next;
-    Release(entry->oid);
-    Release(entry->value);
-    Release(entry);
-    entry = next;
-  }
-}
-
-void FreeWideEntries(CertWideEntry* entry) {
-  while (entry != nullptr) {
-    CertWideEntry* next = entry->next;
-    Release(entry->block1);
-    Release(entry->block3);
+    Entry* next = entry->next;
+    (Release(entry->*kBlocks), ...);
     Release(entry);
     entry = next;
   }
@@ -54,7 +45,7 @@ void SetEntryValue(const DerElement& value, CertEntry& entry) {
   if (tag == kUtf8String || tag == kPrintableString) {
     CopyToBlock(value.content, entry.value, entry.valueLen);
   } else if (tag == kBmpString) {
-    CopyToBlock(value.content, entry.value, entry.valueLen);
+    entry.value = AllocateBytes(value.content.size());
     if (entry.value != nullptr) entry.valueLen = CopyBmpText(value.content, entry.value);
   }
 }
@@ -105,9 +96,9 @@ void X509CertFree(X509Cert* record) {
     Release(block);
   }
   ASN1_FreeTBSCertificate(record->tbs);
-  FreeEntries(record->entriesA);
-  FreeEntries(record->subjectEntries);
-  FreeWideEntries(record->entriesB);
+  FreeEntries<&CertEntry::oid, &CertEntry::value>(record->entriesA);
+  FreeEntries<&CertEntry::oid, &CertEntry::value>(record->subjectEntries);
+  FreeEntries<&CertWideEntry::block1, &CertWideEntry::block3>(record->entriesB);
   Release(record);
 }
 
