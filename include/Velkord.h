@@ -679,7 +679,7 @@ VELKORD_API int32_t ASN1_TBSCertificateSetExtensions(TBSCertificate* record, con
 
 /// Makes the SEQUENCE TLV node of the record: seven required fields, then each optional one whose
 /// flag is 1. The record does not change. Free with `ASN1_FreeAnybuf`. Returns 0, -1 (memory) or -8
-/// (also a required field not set).
+/// (also a field that is to be written and not set).
 VELKORD_API int32_t ASN1_TBSCertificateWriteData(const TBSCertificate* record, Anybuf** out);
 
 /// Decodes a TBSCertificate TLV node into a new record. The first element is always taken for the
@@ -732,7 +732,7 @@ VELKORD_API int32_t ASN1_PKCS10RequestWriteData(const PKCS10Request* record, Any
 /// Decodes the DER of one certificate of exactly `length` bytes into a new record. The unused-bits
 /// octet of the signature becomes 0. Free with `ASN1_FreeCertificate`.
 /// Returns 0, -1 (also fewer than three elements), -2, -7 (it or one of elements 1 and 2 is no
-/// SEQUENCE), -7000 (memory) or -8.
+/// SEQUENCE), -7000 (memory) or -8 (also null bytes of length 0).
 VELKORD_API int32_t ASN1_CertificateDecode(const uint8_t* bytes, uint32_t length,
                                            Certificate** out);
 
