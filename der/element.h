@@ -1,5 +1,5 @@
-// Reading of DER: views that own nothing, and the tag and length rules. Every read of an input byte
-// in the library happens here, behind one bounds check a step.
+// Reading of DER: views that own nothing, and the tag and length rules. Every tag and length
+// octet is read here, behind one bounds check a step.
 #ifndef VELKORD_DER_ELEMENT_H_
 #define VELKORD_DER_ELEMENT_H_
 

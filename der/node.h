@@ -39,9 +39,9 @@ inline uint8_t* Put(uint8_t* place, Bytes bytes) {
   return place + bytes.size();
 }
 
-// Copies `bytes` to a caller's buffer and gives their number.
+// Copies `bytes` to a caller's buffer, which may lie over them, and gives their number.
 inline uint32_t CopyOut(Bytes bytes, uint8_t* out) {
-  Put(out, bytes);
+  if (!bytes.empty()) std::memmove(out, bytes.data(), bytes.size());
   return static_cast<uint32_t>(bytes.size());
 }
 

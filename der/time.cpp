@@ -56,7 +56,8 @@ int32_t TimeRead(Bytes in, int32_t& time) {
   const size_t digits = yearDigits + kMonthToSecondDigits;
   if (in.size() <= digits || in[digits] != 'Z') return VELKORD_BAD_TIME;
   const auto isDigit = [](uint8_t octet) { return octet >= '0' && octet <= '9'; };
-  if (!std::ranges::all_of(in.first(digits), isDigit)) return VELKORD_BAD_TIME;
+  const Bytes fieldDigits = in.first(digits);
+  if (!std::all_of(fieldDigits.begin(), fieldDigits.end(), isDigit)) return VELKORD_BAD_TIME;
 
   std::tm fields{};
   if (yearDigits == 4) {

@@ -584,8 +584,8 @@ VELKORD_API int32_t ASN1_GetRSAPublicKey(const Anybuf* source, Anybuf** outModul
 
 /// Makes an AlgorithmIdentifier TLV node of `oid` and one more element: `parameter` when it is not
 /// null, else NULL when `mode` is 1, else `alternative`, which must then be there. **Releases
-/// `oid`** on success, unless NULL was written; after a failure it stays the caller's. Free with
-/// `ASN1_FreeAnybuf`. Returns 0, -1 (memory) or -8.
+/// `oid`**, that node alone, on success, unless NULL was written; after a failure it stays the
+/// caller's. Free with `ASN1_FreeAnybuf`. Returns 0, -1 (memory) or -8.
 VELKORD_API int32_t ASN1_SetAlgorithmIdentifier(uint32_t mode, Anybuf* oid,
                                                 const Anybuf* alternative, const Anybuf* parameter,
                                                 Anybuf** out);

@@ -7,6 +7,8 @@ bool ToLocalTime(int32_t seconds, std::tm& fields) {
 #if defined(_WIN32)
   return localtime_s(&fields, &time) == 0;
 #else
+  // localtime_r alone may keep the zone of its first call, while mktime follows a change.
+  tzset();
   return localtime_r(&time, &fields) != nullptr;
 #endif
 }

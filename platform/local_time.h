@@ -1,4 +1,4 @@
-// The platform's local time conversion, in both directions, without shared state.
+// The platform's local time conversion, in both directions, by the zone as it stands at the call.
 #ifndef VELKORD_PLATFORM_LOCAL_TIME_H_
 #define VELKORD_PLATFORM_LOCAL_TIME_H_
 

@@ -105,6 +105,41 @@ TEST(Certificate, IsBuiltAndDecoded) {
   EXPECT_EQ(Describe(decoded->signatureValue), "3: 03 03 00 11 20");
 }
 
+TEST(Records, RefuseNullArgumentsAndKeepTheirState) {
+  TBSCertificate record{};
+  Certificate certificate{};
+  Anybuf* out = nullptr;
+  TBSCertificate* decoded = nullptr;
+  EXPECT_EQ(ASN1_TBSCertificateSetExtensions(&record, nullptr), -8);
+  EXPECT_EQ(record.hasExtensions, 0U);
+  EXPECT_EQ(ASN1_TBSCertificateWriteData(&record, nullptr), -8);
+  EXPECT_EQ(ASN1_TBSCertificateWriteData(nullptr, &out), -8);
+  EXPECT_EQ(ASN1_TBSCertificateDecode(nullptr, &decoded), -8);
+  EXPECT_EQ(ASN1_CertificateWriteData(nullptr, &out), -8);
+  EXPECT_EQ(ASN1_CertificateSetSignatureValue(&certificate, nullptr), -8);
+  EXPECT_EQ(ASN1_CreateTBSCertificate(nullptr), -8);
+  EXPECT_EQ(ASN1_CertificateDecode(nullptr, 5, nullptr), -8);
+}
+
+TEST(Nodes, MayBeReadInPlaceAndKeepTheirNeighbours) {
+  const NodePtr text = ToNode("04 05 \"ABCDE\"");
+  uint32_t size = 0;
+  EXPECT_EQ(ASN1_ReadOctetStringToBytes(text.get(), text->data, &size), 0);
+  EXPECT_EQ(ToHex(text->data, size), "41 42 43 44 45");
+
+  Anybuf* oid = ToNode("06 01 2A | 30 00").release();
+  const NodePtr parameter(oid->next);
+  EXPECT_EQ(Made([&](Anybuf** out) {
+              return ASN1_SetAlgorithmIdentifier(0, oid, nullptr, parameter.get(), out);
+            }),
+            "16: 30 05 06 01 2A 30 00");
+  EXPECT_EQ(ToHex(parameter->data, parameter->dataLen), "30 00");
+  // A size beyond 32 bits is refused before a byte is read.
+  uint8_t byte = 0;
+  const Anybuf huge = {&byte, 0xFFFFFFFF, 0, 2, 4, nullptr, nullptr};
+  EXPECT_EQ(Made([&](Anybuf** out) { return ASN1_WriteSequence(&huge, out); }), "-1");
+}
+
 TEST(Inspection, RecordOwnsWhatItsFieldsHold) {
   X509Cert* record = nullptr;
   EXPECT_EQ(X509CertCreate(&record), record);

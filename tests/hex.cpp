@@ -29,6 +29,11 @@ std::string ToHex(const uint8_t* bytes, size_t size) {
 
 NodePtr ToNode(const std::string& text) {
   if (text == "none") return nullptr;
+  if (const size_t bar = text.find(" | "); bar != std::string::npos) {
+    NodePtr head = ToNode(text.substr(0, bar));
+    head->next = ToNode(text.substr(bar + 3)).release();
+    return head;
+  }
   const size_t colon = text.find(": ");
   const ByteVector bytes = FromHex(colon == std::string::npos ? text : text.substr(colon + 1));
   Anybuf* node = nullptr;

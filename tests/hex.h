@@ -33,7 +33,8 @@ std::string ToHex(const uint8_t* bytes, size_t size);
 inline uint32_t Size(const ByteVector& bytes) { return static_cast<uint32_t>(bytes.size()); }
 
 // A node from its text: `05 00` with the reduced tag of its first octet as type, `16: 05 00` with a
-// type, `3/4: F0` with a type and unused bits, or `none`. Its block has exactly the bytes' size.
+// type, `3/4: F0` with a type and unused bits, or `none`; several with " | " between them are a
+// chain. Its block has exactly the bytes' size.
 NodePtr ToNode(const std::string& text);
 
 // A chain as text, its nodes as above with " | " between them.

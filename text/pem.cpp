@@ -53,7 +53,7 @@ bool FindBody(std::string_view text, std::string_view& body) {
   const size_t start = closing + kMarkerDashes;
   const size_t end = text.find('-', start);
   if (end == std::string_view::npos) return false;
-  body = text.substr(start, end - start);
+  body = std::string_view(text.data() + start, end - start);
   return true;
 }
 

@@ -1,6 +1,7 @@
 // AlgorithmIdentifier: an object identifier and one parameter element.
 #include "der/forward.h"
 #include "der/node.h"
+#include "platform/memory.h"
 
 using namespace velkord;
 
@@ -22,7 +23,9 @@ int32_t ASN1_SetAlgorithmIdentifier(uint32_t mode, Anybuf* oid, const Anybuf* al
   const Anybuf* second = parameter != nullptr ? parameter : alternative;
   if (second == nullptr) return VELKORD_NULL_ARGUMENT;
   VELKORD_TRY(DerJoin(kSequence, {NodeBytes(*oid), NodeBytes(*second)}, out));
-  ASN1_FreeAnybuf(oid);
+  // The node alone: the parameter may be the one behind it in the caller's chain.
+  Release(oid->data);
+  Release(oid);
   return VELKORD_OK;
 }
 

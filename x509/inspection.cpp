@@ -57,8 +57,8 @@ bool OpenValueItem(Bytes in, Bytes& content) {
   DerElement id;
   DerElement value;
   return parts.Open(in, kSequenceType) == VELKORD_OK && parts.Next(id) == VELKORD_OK &&
-         std::ranges::equal(id.whole, kValueItemId) && parts.Next(value) == VELKORD_OK &&
-         DerOpenContent(value, content) == VELKORD_OK;
+         std::equal(id.whole.begin(), id.whole.end(), kValueItemId.begin(), kValueItemId.end()) &&
+         parts.Next(value) == VELKORD_OK && DerOpenContent(value, content) == VELKORD_OK;
 }
 
 // Copies what the last value item of an extension's value holds.

@@ -1,6 +1,6 @@
 // SubjectPublicKeyInfo and the RSA public key that it can hold.
 #include "der/forward.h"
-#include "x509/record.h"
+#include "der/node.h"
 
 using namespace velkord;
 

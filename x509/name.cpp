@@ -39,9 +39,9 @@ bool IsNameString(uint32_t type) {
 
 int32_t ASN1_SetAttributeTypeAndValue(const Anybuf* type, const Anybuf* value,
                                       AttributeTypeAndValue** out) {
-  if (type == nullptr || value == nullptr) return VELKORD_NULL_ARGUMENT;
+  if (type == nullptr || value == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
   Owned<AttributeTypeAndValue, ASN1_FreeAttributeTypeAndValue> record;
-  VELKORD_TRY(CreateRecord(out == nullptr ? nullptr : record.Out()));
+  VELKORD_TRY(CreateRecord(record.Out()));
   record->type = DerCopyNode(*type);
   record->value = DerCopyNode(*value);
   if (record->type == nullptr || record->value == nullptr) return VELKORD_OUT_OF_MEMORY;
