@@ -88,6 +88,18 @@ class DerElements {
   // Gives the next child. 0, or -1 at the end.
   int32_t Next(DerElement& child);
 
+  // Gives each child to `open` with its place, 0 for the first and 1 for all behind it, so that of
+  // more than two the last counts. 0, the code of `open`, or -1 for fewer than two.
+  template <typename Open>
+  int32_t OpenPair(Open open) {
+    for (uint32_t at = 0; at < 2 || !AtEnd(); ++at) {
+      DerElement child;
+      VELKORD_TRY(Next(child));
+      VELKORD_TRY(open(child, at == 0 ? 0 : 1));
+    }
+    return VELKORD_OK;
+  }
+
  private:
   Bytes content_;
   Bytes rest_;

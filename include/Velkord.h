@@ -23,7 +23,9 @@
 /// bytes may be null when their length is 0. A node whose `data` is null counts as holding no
 /// bytes. Lengths count bytes.
 ///
-/// **Buffers.** An out buffer comes without its size: each comment states the room that it needs.
+/// **Buffers.** An out buffer comes without its size: each comment states the room that it needs. A
+/// reader of one content may be given the `data` of its own source; otherwise buffers and inputs do
+/// not overlap.
 #ifndef VELKORD_H_
 #define VELKORD_H_
 
@@ -684,10 +686,10 @@ VELKORD_API int32_t ASN1_TBSCertificateWriteData(const TBSCertificate* record, A
 
 /// Decodes a TBSCertificate TLV node into a new record. The first element is always taken for the
 /// version; `version` stays 0. Optional elements are told by the low five bits of their tags. The
-/// unused-bits octets of the identifiers are derived anew, and `extensions` holds a SEQUENCE around
-/// the list. Free with `ASN1_FreeTBSCertificate`.
-/// Returns 0, -1 (also fewer than seven elements), -2, -7 (it or one of elements 3 to 7 is no
-/// SEQUENCE), -7000 (memory) or -8.
+/// unused-bits octets of the identifiers are derived anew (the one that stood in `[2]` stays in its
+/// content), and `extensions` holds a SEQUENCE around the list. Free with
+/// `ASN1_FreeTBSCertificate`. Returns 0, -1 (also fewer than seven elements), -2, -7 (it or one of
+/// elements 3 to 7 is no SEQUENCE), -7000 (memory) or -8.
 VELKORD_API int32_t ASN1_TBSCertificateDecode(const Anybuf* source, TBSCertificate** out);
 
 // -------------------------------------------------------------------------------------------------
@@ -750,8 +752,9 @@ VELKORD_API void X509CertFree(X509Cert* record);
 /// Appends one entry to `subjectEntries` for the first attribute of each relative name in the
 /// subject of `tbs`. A UTF8String or PrintableString value comes as it stands, a BMPString as
 /// `ASN1_ReadBmpStringToBytes` gives it, and any other type leaves the value null. Malformed names
-/// are passed over. The record owns the entries; when memory runs out those that were made stay.
-/// Returns 0, -1 (memory) or -8 (also when `tbs` or its subject is not set).
+/// are passed over. The record owns the entries; when memory runs out those that were made stay,
+/// and an entry whose OID or value could not be held has a null block of length 0 there. Returns 0,
+/// -1 (memory) or -8 (also when `tbs` or its subject is not set).
 VELKORD_API int32_t X509CertGetSubject(X509Cert* record);
 
 /// Looks up the extension whose OID is `oidText`, dotted text of `textLength` characters, in a

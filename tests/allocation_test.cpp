@@ -98,6 +98,17 @@ TEST(Allocation, FailureGivesItsCodeAndLeavesNothing) {
   Sweep(-1, -1, [&] { return ASN1_ReadSequence(tbs.get(), &out[0]); });
   ASN1_FreeAnybuf(out[0]);
 
+  // The OID node stays the caller's when its use fails.
+  const NodePtr oid = ToNode("06 01 2A");
+  for (const int n : {1, 2}) {
+    EXPECT_EQ(Watched(n,
+                      [&] {
+                        return ASN1_SetAlgorithmIdentifier(0, oid.get(), extension.get(), nullptr,
+                                                           &out[0]);
+                      }),
+              -1);
+    EXPECT_EQ(inUse, 0);
+  }
   AttributeTypeAndValue* pair = nullptr;
   Sweep(-7000, -7000,
         [&] { return ASN1_SetAttributeTypeAndValue(extension.get(), extension.get(), &pair); });

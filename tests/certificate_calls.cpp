@@ -71,6 +71,8 @@ std::string LookUp(const Arguments& in) {
   const int32_t code = X509CertGetOIDValue(
       record.get(), in[0].data(), static_cast<int32_t>(in[0].size()), out.Data(), &out.size);
   EXPECT_TRUE(code == 0 || out.Text() == "kept");
+  EXPECT_EQ(X509CertGetOIDValue(record.get(), in[0].data(), 0, nullptr, &out.size), -1);
+  EXPECT_EQ(X509CertGetOIDValue(record.get(), in[0].data(), 0, out.Data(), nullptr), -1);
   return code == 0 ? out.Text() : std::to_string(code);
 }
 

@@ -24,9 +24,8 @@ using NodePtr = std::unique_ptr<Anybuf, FreeWith<ASN1_FreeAnybuf>>;
 using TbsPtr = std::unique_ptr<TBSCertificate, FreeWith<ASN1_FreeTBSCertificate>>;
 using CertificatePtr = std::unique_ptr<Certificate, FreeWith<ASN1_FreeCertificate>>;
 
-// Hexadecimal octets with blanks between them, "05 00", to bytes and back. `FF*200` is 200 octets,
-// and
-// `"CN"` the octets of a text without blanks.
+// Hexadecimal octets with blanks between them, "05 00", to bytes and back. `FF*200` is 200 octets
+// and `"CN"` the octets of a text without blanks.
 ByteVector FromHex(const std::string& hex);
 std::string ToHex(const uint8_t* bytes, size_t size);
 

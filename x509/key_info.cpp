@@ -14,13 +14,10 @@ int32_t ASN1_GetRSAPublicKey(const Anybuf* source, Anybuf** outModulus, Anybuf**
   }
   DerElements elements;
   VELKORD_TRY(elements.Open(NodeBytes(*source), kSequenceType));
-  // The first number, and the last of those behind it.
   Bytes numbers[2];
-  for (uint32_t at = 0; at < 2 || !elements.AtEnd(); ++at) {
-    DerElement element;
-    VELKORD_TRY(elements.Next(element));
-    VELKORD_TRY(DerOpenContent(element, numbers[at == 0 ? 0 : 1]));
-  }
+  VELKORD_TRY(elements.OpenPair([&](const DerElement& element, size_t place) {
+    return DerOpenContent(element, numbers[place]);
+  }));
   NodePtr modulus;
   VELKORD_TRY(DerBuild(kInteger, numbers[0], modulus.Out()));
   VELKORD_TRY(DerBuild(kInteger, numbers[1], outExponent));

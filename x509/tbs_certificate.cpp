@@ -1,4 +1,6 @@
 // The signed part of a certificate: made field by field, written and decoded.
+#include <array>
+
 #include "der/integer.h"
 #include "der/tagging.h"
 #include "x509/record.h"
@@ -24,15 +26,14 @@ int32_t SetUniqueId(TBSCertificate* record, Field field, uint32_t TBSCertificate
   return VELKORD_OK;
 }
 
-// The optional elements of a TBSCertificate as they are read.
-struct Optionals {
-  bool hasIssuerUniqueId = false;
-  bool hasSubjectUniqueId = false;
-  bool hasExtensions = false;
-  Bytes issuerUniqueId;
-  Bytes subjectUniqueId;
-  Bytes extensions;
+// An optional element as it is read.
+struct Optional {
+  bool present = false;
+  Bytes bytes;
 };
+
+// The optional elements by their tag numbers.
+using Optionals = std::array<Optional, kExtensionsTag + 1>;
 
 // The bits of a unique identifier: of a constructed element its first inner element as it stands.
 int32_t OpenUniqueId(const DerElement& element, Bytes& bits) {
@@ -48,42 +49,33 @@ int32_t OpenUniqueId(const DerElement& element, Bytes& bits) {
 
 // The low five bits of a tag alone tell which element it is; the last of its kind counts.
 int32_t OpenOptional(const DerElement& element, Optionals& optionals) {
-  switch (element.tag & kTagNumberMask) {
-    case kIssuerUniqueIdTag:
-      optionals.hasIssuerUniqueId = true;
-      return OpenUniqueId(element, optionals.issuerUniqueId);
-    case kSubjectUniqueIdTag:
-      optionals.hasSubjectUniqueId = true;
-      return OpenUniqueId(element, optionals.subjectUniqueId);
-    case kExtensionsTag:
-      optionals.hasExtensions = true;
-      return DerOpenContent(element, optionals.extensions);
-    default:
-      return VELKORD_OK;
-  }
+  const uint32_t number = element.tag & kTagNumberMask;
+  if (number < kIssuerUniqueIdTag || number > kExtensionsTag) return VELKORD_OK;
+  Optional& optional = optionals[number];
+  optional.present = true;
+  return number == kExtensionsTag ? DerOpenContent(element, optional.bytes)
+                                  : OpenUniqueId(element, optional.bytes);
 }
 
-int32_t BuildUniqueId(uint32_t tagNumber, Bytes bits, Anybuf** out) {
-  const auto unusedBits = static_cast<uint8_t>(ImpliedUnusedBits(bits));
-  return DerJoin(static_cast<uint8_t>(kContextPrimitive | tagNumber), {{&unusedBits, 1}, bits},
-                 out);
+// Sets a unique identifier with the unused bits that its last byte implies.
+int32_t FillUniqueId(uint32_t tagNumber, const Optional& optional, Anybuf*& field, uint32_t& flag) {
+  if (!optional.present) return VELKORD_OK;
+  const auto unusedBits = static_cast<uint8_t>(ImpliedUnusedBits(optional.bytes));
+  const auto tag = static_cast<uint8_t>(kContextPrimitive | tagNumber);
+  VELKORD_TRY(DerJoin(tag, {{&unusedBits, 1}, optional.bytes}, &field));
+  flag = 1;
+  return VELKORD_OK;
 }
 
-int32_t SetOptionals(const Optionals& optionals, TBSCertificate& record) {
-  if (optionals.hasIssuerUniqueId) {
-    VELKORD_TRY(
-        BuildUniqueId(kIssuerUniqueIdTag, optionals.issuerUniqueId, &record.issuerUniqueID));
-    record.hasIssuerUniqueID = 1;
-  }
-  if (optionals.hasSubjectUniqueId) {
-    VELKORD_TRY(
-        BuildUniqueId(kSubjectUniqueIdTag, optionals.subjectUniqueId, &record.subjectUniqueID));
-    record.hasSubjectUniqueID = 1;
-  }
-  if (optionals.hasExtensions) {
-    VELKORD_TRY(DerBuild(kSequence, optionals.extensions, &record.extensions));
-    record.hasExtensions = 1;
-  }
+int32_t FillOptionals(const Optionals& optionals, TBSCertificate& record) {
+  VELKORD_TRY(FillUniqueId(kIssuerUniqueIdTag, optionals[kIssuerUniqueIdTag], record.issuerUniqueID,
+                           record.hasIssuerUniqueID));
+  VELKORD_TRY(FillUniqueId(kSubjectUniqueIdTag, optionals[kSubjectUniqueIdTag],
+                           record.subjectUniqueID, record.hasSubjectUniqueID));
+  const Optional& extensions = optionals[kExtensionsTag];
+  if (!extensions.present) return VELKORD_OK;
+  VELKORD_TRY(DerBuild(kSequence, extensions.bytes, &record.extensions));
+  record.hasExtensions = 1;
   return VELKORD_OK;
 }
 
@@ -108,7 +100,7 @@ int32_t Fill(TBSCertificate& record, DerElements& elements) {
     VELKORD_TRY(elements.Next(element));
     VELKORD_TRY(OpenOptional(element, optionals));
   }
-  return SetOptionals(optionals, record);
+  return FillOptionals(optionals, record);
 }
 
 }  // namespace

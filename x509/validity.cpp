@@ -16,16 +16,13 @@ int32_t ASN1_GetValidity(const Anybuf* source, int32_t* notBefore, int32_t* notA
   }
   DerElements elements;
   VELKORD_TRY(elements.Open(NodeBytes(*source), kSequenceType));
-  // The first time, and the last of those behind it.
   int32_t times[2] = {};
-  for (uint32_t at = 0; at < 2 || !elements.AtEnd(); ++at) {
-    DerElement element;
-    VELKORD_TRY(elements.Next(element));
+  VELKORD_TRY(elements.OpenPair([&](const DerElement& element, size_t place) -> int32_t {
     if (element.tag != ReduceTag(kUtcTime) && element.tag != ReduceTag(kGeneralizedTime)) {
       return VELKORD_WRONG_TAG;
     }
-    VELKORD_TRY(TimeRead(element.whole, times[at == 0 ? 0 : 1]));
-  }
+    return TimeRead(element.whole, times[place]);
+  }));
   *notBefore = times[0];
   *notAfter = times[1];
   return VELKORD_OK;
