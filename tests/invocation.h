@@ -24,7 +24,7 @@ class Invocation {
       std::apply(function, arguments);
       return 0;
     } else {
-      return std::apply(function, arguments);
+      return static_cast<int32_t>(std::apply(function, arguments));
     }
   }
 
