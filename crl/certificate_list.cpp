@@ -10,6 +10,10 @@ using Shape = SignedRecord<CertificateList, &CertificateList::tbsCertList,
 
 }  // namespace
 
+int32_t ASN1_CRL_CreateCertificateList(CertificateList** out) { return CreateRecord(out); }
+
+void ASN1_CRL_FreeCertificateList(CertificateList* record) { Shape::Free(record); }
+
 int32_t ASN1_CRL_SetCertificateListTBSCertList(CertificateList* record, const Anybuf* value) {
   return Shape::SetSigned(record, value);
 }
@@ -25,4 +29,9 @@ int32_t ASN1_CRL_SetCertificateListSignatureValue(CertificateList* record, const
 
 int32_t ASN1_CRL_CertificateListWriteData(const CertificateList* record, Anybuf** out) {
   return Shape::WriteData(record, out);
+}
+
+int32_t ASN1_CRL_CertificateListDecode(const uint8_t* bytes, uint32_t length,
+                                       CertificateList** out) {
+  return Shape::Decode(bytes, length, out);
 }

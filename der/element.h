@@ -84,6 +84,8 @@ class DerElements {
   Bytes Content() const { return content_; }
   uint32_t Count() const { return count_; }
   bool AtEnd() const { return rest_.empty(); }
+  // Whether there is a next child, whose first octet is `octet`.
+  bool StartsWith(uint8_t octet) const { return !rest_.empty() && rest_[0] == octet; }
 
   // Gives the next child. 0, or -1 at the end.
   int32_t Next(DerElement& child);

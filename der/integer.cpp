@@ -3,9 +3,7 @@
 
 #include "platform/memory.h"
 
-using namespace velkord;
-
-namespace {
+namespace velkord {
 
 uint32_t DerBytesToUint(Bytes content) {
   uint32_t value = 0;
@@ -13,20 +11,23 @@ uint32_t DerBytesToUint(Bytes content) {
   return value;
 }
 
-}  // namespace
+}  // namespace velkord
+
+using namespace velkord;
 
 int32_t Asn1LowIntToChar(uint32_t value, uint8_t** outBytes, uint32_t** outLength) {
   if (outBytes == nullptr || outLength == nullptr) return VELKORD_NULL_ARGUMENT;
-  const IntegerOctets octets(value);
-  uint8_t* block = AllocateBytes(octets.View().size());
+  const IntegerElement integer(value);
+  const Bytes octets = integer.Content();
+  uint8_t* block = AllocateBytes(octets.size());
   auto* length = AllocateZeroed<uint32_t>();
   if (block == nullptr || length == nullptr) {
     Release(block);
     Release(length);
     return VELKORD_FAILURE;
   }
-  Put(block, octets.View());
-  *length = static_cast<uint32_t>(octets.View().size());
+  Put(block, octets);
+  *length = static_cast<uint32_t>(octets.size());
   *outBytes = block;
   *outLength = length;
   return VELKORD_OK;
@@ -34,7 +35,7 @@ int32_t Asn1LowIntToChar(uint32_t value, uint8_t** outBytes, uint32_t** outLengt
 
 int32_t ASN1_WriteInteger(uint32_t value, Anybuf** out) {
   if (out == nullptr) return VELKORD_NULL_ARGUMENT;
-  return DerJoin(kInteger, {IntegerOctets(value).View()}, out);
+  return DerCopyBytes(IntegerElement(value).Whole(), kInteger, 0, out);
 }
 
 int32_t ASN1_ReadInteger(const Anybuf* source, uint32_t* value) {

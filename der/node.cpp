@@ -20,10 +20,6 @@ uint8_t* PutHeader(uint8_t* place, uint8_t tag, uint32_t length) {
   return place;
 }
 
-bool NeedsZeroOctet(uint8_t tag, Bytes content) {
-  return tag == kInteger && !content.empty() && content[0] >= 0x80;
-}
-
 // The content of an element without the zero octet that keeps an INTEGER positive.
 int32_t OpenElement(const DerElement& element, bool dropUnusedBitsOctet, Bytes& content) {
   Bytes bytes = element.content;
@@ -47,7 +43,7 @@ uint32_t ImpliedUnusedBits(Bytes bits) {
 }
 
 DerHeader::DerHeader(uint8_t tag, uint64_t contentLength) {
-  // A length beyond 32 bits is refused by whoever makes the node, which is never smaller.
+  // A length beyond 32 bits is refused by whoever makes the element, which is never smaller.
   const uint8_t* end = PutHeader(octets_, tag, static_cast<uint32_t>(contentLength));
   size_ = static_cast<size_t>(end - octets_);
   total_ = size_ + contentLength;
@@ -56,6 +52,14 @@ DerHeader::DerHeader(uint8_t tag, uint64_t contentLength) {
 DerHeader DerHeader::ForBitString(uint32_t unusedBits, uint64_t bitsLength) {
   DerHeader header(kBitString, bitsLength + 1);
   header.octets_[header.size_++] = static_cast<uint8_t>(unusedBits);
+  return header;
+}
+
+DerHeader DerHeader::For(uint8_t tag, Bytes content, uint32_t unusedBits) {
+  if (tag == kBitString) return ForBitString(unusedBits, content.size());
+  const bool zeroOctet = tag == kInteger && !content.empty() && content[0] >= 0x80;
+  DerHeader header(tag, uint64_t{content.size()} + (zeroOctet ? 1 : 0));
+  if (zeroOctet) header.octets_[header.size_++] = 0;
   return header;
 }
 
@@ -93,6 +97,13 @@ int32_t DerCopyBitString(Bytes in, Anybuf** out) {
   return DerCopyBytes(in, tag, rest[0], out);
 }
 
+int32_t DerCopyElement(Bytes in, Anybuf** out) {
+  Bytes behindTag = in;
+  uint32_t tag;
+  VELKORD_TRY(DerParseTag(behindTag, tag));
+  return DerCopyBytes(in, tag, 0, out);
+}
+
 Anybuf* DerCopyNode(const Anybuf& node) {
   Anybuf* copy = nullptr;
   if (DerCopyBytes(NodeBytes(node), node.dataType, node.unusedBits, &copy) != VELKORD_OK) {
@@ -102,24 +113,19 @@ Anybuf* DerCopyNode(const Anybuf& node) {
   return copy;
 }
 
-int32_t DerBuildHeader(uint8_t tag, uint64_t contentLength, Anybuf** out, uint8_t*& place) {
-  if (contentLength > UINT32_MAX) return VELKORD_FAILURE;
-  const auto length = static_cast<uint32_t>(contentLength);
-  Anybuf* node = DerNewNode(1 + DerLengthSize(length) + contentLength, ReduceTag(tag));
+int32_t DerBuildHeader(const DerHeader& header, Anybuf** out, uint8_t*& place) {
+  Anybuf* node = DerNewNode(header.Total(), ReduceTag(header.View()[0]));
   if (node == nullptr) return VELKORD_FAILURE;
-  place = PutHeader(node->data, tag, length);
+  place = Put(node->data, header.View());
   *out = node;
   return VELKORD_OK;
 }
 
 int32_t DerBuild(uint8_t tag, Bytes content, Anybuf** out, uint32_t unusedBits) {
-  const bool leadingOctet = tag == kBitString || NeedsZeroOctet(tag, content);
-  const uint32_t leading = tag == kBitString ? unusedBits : 0;
   Anybuf* node;
   uint8_t* place;
-  VELKORD_TRY(DerBuildHeader(tag, uint64_t{content.size()} + (leadingOctet ? 1 : 0), &node, place));
-  node->unusedBits = leading;
-  if (leadingOctet) *place++ = static_cast<uint8_t>(leading);
+  VELKORD_TRY(DerBuildHeader(DerHeader::For(tag, content, unusedBits), &node, place));
+  node->unusedBits = tag == kBitString ? unusedBits : 0;
   Put(place, content);
   *out = node;
   return VELKORD_OK;
@@ -180,6 +186,18 @@ int32_t DerOpenContent(const Anybuf& source, DerContent& content) {
 
 int32_t DerOpenContent(const DerElement& child, Bytes& content) {
   return OpenElement(child, child.tag == kBitString, content);
+}
+
+int32_t DerNextContent(DerElements& children, Bytes& content) {
+  DerElement child;
+  VELKORD_TRY(children.Next(child));
+  return DerOpenContent(child, content);
+}
+
+int32_t DerCopyContent(const DerElement& child, Anybuf** out) {
+  Bytes content;
+  VELKORD_TRY(DerOpenContent(child, content));
+  return DerCopyBytes(content, child.tag, 0, out);
 }
 
 int32_t DerOpenRaw(const Anybuf& source, Bytes& content) {

@@ -49,12 +49,16 @@ inline uint32_t CopyOut(Bytes bytes, uint8_t* out) {
 // the number of bits of one less than the byte.
 uint32_t ImpliedUnusedBits(Bytes bits);
 
-// The header of an element that stands inside another: tag and length octets.
+// The header of an element: tag and length octets.
 class DerHeader {
  public:
   DerHeader(uint8_t tag, uint64_t contentLength);
   // With the unused-bits octet of a BIT STRING behind them.
   static DerHeader ForBitString(uint32_t unusedBits, uint64_t bitsLength);
+  // With the octet that the content of such an element has in front: a BIT STRING's is the low byte
+  // of `unusedBits`, which no other type looks at; an INTEGER's is zero, and there only when the
+  // content begins with 0x80 or more.
+  static DerHeader For(uint8_t tag, Bytes content, uint32_t unusedBits = 0);
 
   Bytes View() const { return {octets_, size_}; }
   // Size of the whole element.
@@ -76,16 +80,18 @@ int32_t DerCopyBytes(Bytes bytes, uint32_t dataType, uint32_t unusedBits, Anybuf
 // header. Neither the tag nor the size is tested. -1 or -2 from the header, -2 without that octet.
 int32_t DerCopyBitString(Bytes in, Anybuf** out);
 
+// A TLV node with a copy of DER bytes, of which the tag alone is looked at. 0, -1, or -2 without a
+// tag.
+int32_t DerCopyElement(Bytes in, Anybuf** out);
+
 // A copy of a node alone, all its fields but `next` and `prev` carried over; null when it cannot be
 // made.
 Anybuf* DerCopyNode(const Anybuf& node);
 
-// A TLV node whose header is written; `place` is where its `contentLength` bytes go.
-int32_t DerBuildHeader(uint8_t tag, uint64_t contentLength, Anybuf** out, uint8_t*& place);
+// A TLV node whose header is written; `place` is where its content goes.
+int32_t DerBuildHeader(const DerHeader& header, Anybuf** out, uint8_t*& place);
 
-// One element from one content. A BIT STRING gets an octet with the low byte of `unusedBits` in
-// front, which no other type looks at; an INTEGER gets a zero octet in front of a first byte of
-// 0x80 or more.
+// One element from one content, with the octet in front that `DerHeader::For` gives it.
 int32_t DerBuild(uint8_t tag, Bytes content, Anybuf** out, uint32_t unusedBits = 0);
 
 // The same from a caller's node or bytes. -8 for a null argument that is needed.
@@ -99,7 +105,7 @@ int32_t DerJoinEach(uint8_t tag, ForEach forEach, Anybuf** out) {
   forEach([&](Bytes part) { length += part.size(); });
   Anybuf* node;
   uint8_t* place;
-  VELKORD_TRY(DerBuildHeader(tag, length, &node, place));
+  VELKORD_TRY(DerBuildHeader(DerHeader(tag, length), &node, place));
   forEach([&](Bytes part) { place = Put(place, part); });
   *out = node;
   return VELKORD_OK;
@@ -127,6 +133,10 @@ struct DerContent {
 int32_t DerOpenContent(const Anybuf& source, DerContent& content);
 // The same for an element that was split from its parent.
 int32_t DerOpenContent(const DerElement& child, Bytes& content);
+// The same for the next child of an opened element; -1 when there is none.
+int32_t DerNextContent(DerElements& children, Bytes& content);
+// A content node of such an element's content and tag.
+int32_t DerCopyContent(const DerElement& child, Anybuf** out);
 // The same, a BIT STRING's octet left in place.
 int32_t DerOpenRaw(const Anybuf& source, Bytes& content);
 

@@ -82,10 +82,7 @@ int32_t ASN1_WriteExplicitFromDERData(const uint8_t* bytes, uint32_t length, Any
   if (out == nullptr) return VELKORD_NULL_ARGUMENT;
   Bytes in;
   VELKORD_TRY(CallerBytes(bytes, length, in));
-  Bytes behindTag = in;
-  uint32_t tag;
-  VELKORD_TRY(DerParseTag(behindTag, tag));
-  return DerCopyBytes(in, tag, 0, out);
+  return DerCopyElement(in, out);
 }
 
 VELKORD_FORWARD_BYTES(ASN1_WriteBmpStringFromDERBytes, ASN1_WriteExplicitFromDERData)

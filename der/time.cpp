@@ -9,9 +9,6 @@ namespace velkord {
 
 namespace {
 
-constexpr uint32_t kGeneralizedTimeType = ReduceTag(kGeneralizedTime);
-constexpr uint32_t kUtcTimeType = ReduceTag(kUtcTime);
-
 // Years are counted from 1900, as the platform does.
 constexpr int kYearBase = 1900;
 constexpr int kFirstUtcTimeYear = 70;
@@ -27,12 +24,13 @@ int TwoDigits(Bytes text, size_t at) { return (text[at] - '0') * 10 + (text[at +
 
 }  // namespace
 
-int32_t TimeWriteNode(int32_t time, uint8_t tag, Anybuf** out) {
+int32_t TimeElement::Set(int32_t time, uint8_t tag) {
   if (time < 0) return VELKORD_NEGATIVE_TIME;
   std::tm fields{};
   if (!ToLocalTime(time, fields)) return VELKORD_OUT_OF_MEMORY;
 
-  uint8_t text[15];
+  octets_[0] = tag;
+  uint8_t* const text = octets_ + 2;
   uint8_t* end = text;
   const int year = fields.tm_year + kYearBase;
   if (tag == kGeneralizedTime) end = PutTwoDigits(end, year / 100);
@@ -42,7 +40,17 @@ int32_t TimeWriteNode(int32_t time, uint8_t tag, Anybuf** out) {
     end = PutTwoDigits(end, field);
   }
   *end++ = 'Z';
-  if (DerBuild(tag, Bytes(text, end), out) != VELKORD_OK) return VELKORD_OUT_OF_MEMORY;
+  octets_[1] = static_cast<uint8_t>(end - text);
+  size_ = static_cast<size_t>(end - octets_);
+  return VELKORD_OK;
+}
+
+int32_t TimeWriteNode(int32_t time, uint8_t tag, Anybuf** out) {
+  TimeElement element;
+  VELKORD_TRY(element.Set(time, tag));
+  if (DerCopyBytes(element.Whole(), ReduceTag(tag), 0, out) != VELKORD_OK) {
+    return VELKORD_OUT_OF_MEMORY;
+  }
   return VELKORD_OK;
 }
 
@@ -52,7 +60,7 @@ int32_t TimeRead(Bytes in, int32_t& time) {
   VELKORD_TRY(DerParseTag(in, tag));
   VELKORD_TRY(DerParseLength(in, length));
 
-  const size_t yearDigits = tag == kGeneralizedTimeType ? 4 : 2;
+  const size_t yearDigits = tag == ReduceTag(kGeneralizedTime) ? 4 : 2;
   const size_t digits = yearDigits + kMonthToSecondDigits;
   if (in.size() <= digits || in[digits] != 'Z') return VELKORD_BAD_TIME;
   const auto isDigit = [](uint8_t octet) { return octet >= '0' && octet <= '9'; };
@@ -74,6 +82,11 @@ int32_t TimeRead(Bytes in, int32_t& time) {
   return FromLocalTime(fields, time) ? VELKORD_OK : VELKORD_OUT_OF_MEMORY;
 }
 
+int32_t TimeReadForm(Bytes in, uint8_t form, uint32_t dataType, int32_t& time) {
+  if ((dataType & 0xFF) != ReduceTag(form)) return VELKORD_WRONG_TAG;
+  return TimeRead(in, time);
+}
+
 }  // namespace velkord
 
 using namespace velkord;
@@ -85,10 +98,9 @@ int32_t WriteTime(const int32_t* time, uint8_t tag, Anybuf** out) {
   return TimeWriteNode(*time, tag, out);
 }
 
-int32_t ReadTime(const Anybuf* source, uint32_t type, int32_t* time) {
+int32_t ReadTime(const Anybuf* source, uint8_t form, int32_t* time) {
   if (source == nullptr || time == nullptr) return VELKORD_NULL_ARGUMENT;
-  if ((source->dataType & 0xFF) != type) return VELKORD_WRONG_TAG;
-  return TimeRead(NodeBytes(*source), *time);
+  return TimeReadForm(NodeBytes(*source), form, source->dataType, *time);
 }
 
 }  // namespace
@@ -102,9 +114,9 @@ int32_t ASN1_WriteUtcTime(const int32_t* time, Anybuf** out) {
 }
 
 int32_t ASN1_ReadGeneralizedTime(const Anybuf* source, int32_t* time) {
-  return ReadTime(source, kGeneralizedTimeType, time);
+  return ReadTime(source, kGeneralizedTime, time);
 }
 
 int32_t ASN1_ReadUtcTime(const Anybuf* source, int32_t* time) {
-  return ReadTime(source, kUtcTimeType, time);
+  return ReadTime(source, kUtcTime, time);
 }

@@ -6,6 +6,25 @@
 
 namespace velkord {
 
+// The element of a time.
+class TimeElement {
+ public:
+  // In the form of `tag`, UTCTime or GeneralizedTime. 0, -4 for a negative time, or -7000.
+  int32_t Set(int32_t time, uint8_t tag);
+
+  // Empty before a time is set.
+  Bytes Whole() const { return {octets_, size_}; }
+
+ private:
+  uint8_t octets_[17];
+  size_t size_ = 0;
+};
+
+// The form that the first octet of an element selects: UTCTime by its tag, else GeneralizedTime.
+inline uint8_t TimeForm(Bytes in) {
+  return !in.empty() && in[0] == kUtcTime ? kUtcTime : kGeneralizedTime;
+}
+
 // Makes a time TLV node in the form of `tag`, UTCTime or GeneralizedTime.
 // 0, -4 for a negative time, or -7000.
 int32_t TimeWriteNode(int32_t time, uint8_t tag, Anybuf** out);
@@ -14,6 +33,9 @@ int32_t TimeWriteNode(int32_t time, uint8_t tag, Anybuf** out);
 // behind the header are its text, whatever length the header states.
 // 0, -1 or -2 from the header, -5, or -7000.
 int32_t TimeRead(Bytes in, int32_t& time);
+
+// The same of an element whose `dataType` must be that of `form` in its low byte; -7 otherwise.
+int32_t TimeReadForm(Bytes in, uint8_t form, uint32_t dataType, int32_t& time);
 
 }  // namespace velkord
 

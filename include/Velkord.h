@@ -119,6 +119,29 @@ typedef struct Certificate {
   Anybuf* signatureValue;      ///< BIT STRING.
 } Certificate;
 
+/// One entry of a revocation list. Owns its three nodes.
+typedef struct RevokedCertificate {
+  uint32_t hasCrlEntryExtensions;   ///< 1 when `crlEntryExtensions` is set.
+  Anybuf* certificateSerialNumber;  ///< INTEGER.
+  Anybuf* revocationDate;           ///< UTCTime or GeneralizedTime.
+  Anybuf* crlEntryExtensions;       ///< SEQUENCE of extensions, optional.
+} RevokedCertificate;
+
+/// The signed part of a revocation list. Owns its four nodes.
+typedef struct TbsCertList {
+  uint32_t hasRevokedCertificates;  ///< 1 when `revokedCertificates` is set.
+  uint32_t hasCrlExtensions;        ///< 1 when `crlExtensions` is set.
+  uint32_t hasNextUpdate;           ///< 1 when `nextUpdate` is set.
+  uint32_t timeForm;                ///< 1: both times are written as UTCTime, else GeneralizedTime.
+  uint32_t version;                 ///< As its INTEGER shows it; written only when it is 2.
+  Anybuf* signature;                ///< AlgorithmIdentifier.
+  Anybuf* issuer;                   ///< Name.
+  int32_t thisUpdate;               ///< Seconds since 1 January 1970.
+  int32_t nextUpdate;               ///< Seconds since 1 January 1970, optional.
+  Anybuf* revokedCertificates;      ///< SEQUENCE of entries, optional.
+  Anybuf* crlExtensions;            ///< What stands inside `[0]`: SEQUENCE of extensions, optional.
+} TbsCertList;
+
 /// A signed revocation list. Owns its three nodes.
 typedef struct CertificateList {
   Anybuf* tbsCertList;         ///< SEQUENCE, as signed.
@@ -126,12 +149,72 @@ typedef struct CertificateList {
   Anybuf* signatureValue;      ///< BIT STRING.
 } CertificateList;
 
+/// The signed part of a PKCS#10 certification request. Owns its four nodes.
+typedef struct PKCS10 {
+  Anybuf* version;               ///< INTEGER.
+  Anybuf* subject;               ///< Name.
+  Anybuf* subjectPublicKeyInfo;  ///< SubjectPublicKeyInfo.
+  Anybuf* attributes;            ///< `[0]` IMPLICIT SET.
+} PKCS10;
+
 /// A signed PKCS#10 certification request. Owns its three nodes.
 typedef struct PKCS10Request {
   Anybuf* certificationRequestInfo;  ///< SEQUENCE, as signed.
   Anybuf* signatureAlgorithm;        ///< AlgorithmIdentifier.
   Anybuf* signature;                 ///< BIT STRING.
 } PKCS10Request;
+
+/// The signed part of a PKCS#6 extended certificate. Owns its two nodes.
+typedef struct ExtendedCertificateInfo {
+  uint32_t version;     ///< The number itself.
+  Anybuf* certificate;  ///< Certificate.
+  Anybuf* attributes;   ///< SET.
+} ExtendedCertificateInfo;
+
+/// A signed PKCS#6 extended certificate. Owns its three nodes.
+typedef struct ExtendedCertificate {
+  Anybuf* extendedCertificateInfo;  ///< SEQUENCE, as signed.
+  Anybuf* signatureAlgorithm;       ///< AlgorithmIdentifier.
+  Anybuf* signature;                ///< BIT STRING.
+} ExtendedCertificate;
+
+/// A PKCS#7 ContentInfo. Owns its two nodes.
+typedef struct PKCS7Context {
+  Anybuf* contentType;  ///< OBJECT IDENTIFIER.
+  Anybuf* content;      ///< The whole `[0]` element when set; what stands inside it when decoded.
+} PKCS7Context;
+
+/// An RSA public key: big-endian numbers. Encoding takes each from its field's end, with zero bytes
+/// in front; decoding puts each at its field's start, with zero bytes behind.
+typedef struct ZantPublicKey {
+  uint8_t modulus[256];
+  uint8_t publicExponent[256];
+} ZantPublicKey;
+
+/// An RSA private key, its numbers placed as in `ZantPublicKey`.
+typedef struct ZantPrivateKey {
+  uint8_t modulus[256];
+  uint8_t publicExponent[256];
+  uint8_t privateExponent[256];
+  uint8_t prime1[128];
+  uint8_t prime2[128];
+  uint8_t exponent1[128];
+  uint8_t exponent2[128];
+  uint8_t coefficient[128];
+} ZantPrivateKey;
+
+/// The public key of an elliptic curve of 256 bits: the coordinates big-endian at full width.
+typedef struct EccPubkey {
+  uint32_t bits;
+  uint8_t x[32];
+  uint8_t y[32];
+} EccPubkey;
+
+/// The private key of an elliptic curve of 256 bits.
+typedef struct EccPrikey {
+  uint32_t bits;
+  uint8_t d[32];
+} EccPrikey;
 
 /// One subject attribute of an inspected certificate.
 typedef struct CertEntry {
@@ -693,14 +776,25 @@ VELKORD_API int32_t ASN1_TBSCertificateWriteData(const TBSCertificate* record, A
 VELKORD_API int32_t ASN1_TBSCertificateDecode(const Anybuf* source, TBSCertificate** out);
 
 // -------------------------------------------------------------------------------------------------
-// Certificates: the signed whole, in one shape with revocation lists and certification requests
+// The signed whole of certificates, revocation lists, PKCS#10 certification requests and PKCS#6
+// extended certificates. It has one shape: what is signed, the algorithm and the signature.
 // -------------------------------------------------------------------------------------------------
 
-/// Makes an empty record. Free with `ASN1_FreeCertificate`. Returns 0, -7000 (memory) or -8.
+/// Makes an empty record. Free with the function of the same type. Returns 0, -7000 (memory) or -8.
+/// @{
 VELKORD_API int32_t ASN1_CreateCertificate(Certificate** out);
+VELKORD_API int32_t ASN1_CRL_CreateCertificateList(CertificateList** out);
+VELKORD_API int32_t ASN1_CreatePKCS10Request(PKCS10Request** out);
+VELKORD_API int32_t ASN1_PKCS6_CreateExtendedCertificate(ExtendedCertificate** out);
+/// @}
 
 /// Releases a record and its nodes.
+/// @{
 VELKORD_API void ASN1_FreeCertificate(Certificate* record);
+VELKORD_API void ASN1_CRL_FreeCertificateList(CertificateList* record);
+VELKORD_API void ASN1_FreePKCS10Request(PKCS10Request* record);
+VELKORD_API void ASN1_PKCS6_FreeExtendedCertificate(ExtendedCertificate* record);
+/// @}
 
 /// Sets the first or the second field to a copy of a SEQUENCE TLV node, its own length rewritten in
 /// shortest form. What the field held before is released. Returns 0, -1 (an element that overruns,
@@ -712,6 +806,14 @@ VELKORD_API int32_t ASN1_CRL_SetCertificateListTBSCertList(CertificateList* reco
                                                            const Anybuf* value);
 VELKORD_API int32_t ASN1_CRL_SetCertificateListAlgorithmIdentifier(CertificateList* record,
                                                                    const Anybuf* value);
+VELKORD_API int32_t ASN1_PKCS10RequestSetCertificationRequestInfo(PKCS10Request* record,
+                                                                  const Anybuf* value);
+VELKORD_API int32_t ASN1_PKCS10RequestSetAlgorithmIdentifier(PKCS10Request* record,
+                                                             const Anybuf* value);
+VELKORD_API int32_t ASN1_PKCS6_SetCertificateCertificateInfo(ExtendedCertificate* record,
+                                                             const Anybuf* value);
+VELKORD_API int32_t ASN1_PKCS6_SetCertificateSignatureAlgorithmIdentifier(
+    ExtendedCertificate* record, const Anybuf* value);
 /// @}
 
 /// Sets the signature to a copy of a BIT STRING TLV node, as `ASN1_WriteBitStringFromDERBytes`
@@ -720,6 +822,9 @@ VELKORD_API int32_t ASN1_CRL_SetCertificateListAlgorithmIdentifier(CertificateLi
 VELKORD_API int32_t ASN1_CertificateSetSignatureValue(Certificate* record, const Anybuf* value);
 VELKORD_API int32_t ASN1_CRL_SetCertificateListSignatureValue(CertificateList* record,
                                                               const Anybuf* value);
+VELKORD_API int32_t ASN1_PKCS10RequestSetSignature(PKCS10Request* record, const Anybuf* value);
+VELKORD_API int32_t ASN1_PKCS6_SetCertificateSignature(ExtendedCertificate* record,
+                                                       const Anybuf* value);
 /// @}
 
 /// Makes the SEQUENCE TLV node of the three fields. The record does not change. Free with
@@ -729,14 +834,26 @@ VELKORD_API int32_t ASN1_CRL_SetCertificateListSignatureValue(CertificateList* r
 VELKORD_API int32_t ASN1_CertificateWriteData(const Certificate* record, Anybuf** out);
 VELKORD_API int32_t ASN1_CRL_CertificateListWriteData(const CertificateList* record, Anybuf** out);
 VELKORD_API int32_t ASN1_PKCS10RequestWriteData(const PKCS10Request* record, Anybuf** out);
+VELKORD_API int32_t ASN1_PKCS6_CertificateWriteData(const ExtendedCertificate* record,
+                                                    Anybuf** out);
 /// @}
 
-/// Decodes the DER of one certificate of exactly `length` bytes into a new record. The unused-bits
-/// octet of the signature becomes 0. Free with `ASN1_FreeCertificate`.
+/// Decodes DER of exactly `length` bytes into a new record. The first two nodes have their lengths
+/// in shortest form; the signature is a copy as it stands, but that of a certificate, whose
+/// unused-bits octet becomes 0. Elements behind the third are passed over. Free with the function
+/// of the same type.
 /// Returns 0, -1 (also fewer than three elements), -2, -7 (it or one of elements 1 and 2 is no
 /// SEQUENCE), -7000 (memory) or -8 (also null bytes of length 0).
+/// @{
 VELKORD_API int32_t ASN1_CertificateDecode(const uint8_t* bytes, uint32_t length,
                                            Certificate** out);
+VELKORD_API int32_t ASN1_CRL_CertificateListDecode(const uint8_t* bytes, uint32_t length,
+                                                   CertificateList** out);
+VELKORD_API int32_t ASN1_PKCS10RequestDecode(const uint8_t* bytes, uint32_t length,
+                                             PKCS10Request** out);
+VELKORD_API int32_t ASN1_PKCS6_CertificateDecode(const uint8_t* bytes, uint32_t length,
+                                                 ExtendedCertificate** out);
+/// @}
 
 // -------------------------------------------------------------------------------------------------
 // Certificate inspection
@@ -766,6 +883,286 @@ VELKORD_API int32_t X509CertGetSubject(X509Cert* record);
 /// `valueLength` is null; or -8 (null `record`, `oidText` or `tbs`).
 VELKORD_API int32_t X509CertGetOIDValue(const X509Cert* record, const char* oidText,
                                         int32_t textLength, uint8_t* value, uint32_t* valueLength);
+
+// -------------------------------------------------------------------------------------------------
+// Revocation lists: an entry
+// -------------------------------------------------------------------------------------------------
+
+/// Makes an empty record. Free with `ASN1_CRL_FreeRevokedCertificate`. Returns 0, -7000 (memory) or
+/// -8.
+VELKORD_API int32_t ASN1_CRL_CreateRevokedCertificate(RevokedCertificate** out);
+
+/// Releases a record and its nodes.
+VELKORD_API void ASN1_CRL_FreeRevokedCertificate(RevokedCertificate* record);
+
+/// Sets the serial number to a copy of a TLV node of any type. Each setter of this record releases
+/// what the field held before. Returns 0, -1 (memory), -2 (no tag) or -8.
+VELKORD_API int32_t ASN1_CRL_SetRevokedCertificateCertificateSerialNumber(
+    RevokedCertificate* record, const Anybuf* value);
+
+/// Sets the date from a time TLV node, read and written again in the form that it has. Its
+/// `dataType` must be 23 when its first octet is 0x17 (UTCTime), and 24 otherwise.
+/// Returns 0, -1 (length octets), -2, -5, -7 (the other form), -7000 (memory, or see
+/// `ASN1_ReadUtcTime`) or -8.
+VELKORD_API int32_t ASN1_CRL_SetRevokedCertificateRevocationDate(RevokedCertificate* record,
+                                                                 const Anybuf* value);
+
+/// Sets the extensions to a copy of a SEQUENCE TLV node, its own length rewritten in shortest form.
+/// Returns 0, -1 (an element that overruns, memory), -2, -7 (no SEQUENCE) or -8.
+VELKORD_API int32_t ASN1_CRL_SetRevokedCertificateCrlEntryExtensions(RevokedCertificate* record,
+                                                                     const Anybuf* value);
+
+/// Makes the SEQUENCE TLV node of the entry, with extensions when their flag is 1. The record does
+/// not change. Free with `ASN1_FreeAnybuf`. Returns 0, -1 (memory) or -8 (also a field that is to
+/// be written and not set).
+VELKORD_API int32_t ASN1_CRL_RevokedCertificateWriteData(const RevokedCertificate* record,
+                                                         Anybuf** out);
+
+/// Decodes the DER of one entry of exactly `length` bytes into a new record. The first element is
+/// copied, the date is read and written again as the setter does, and a third element is the
+/// extensions. Elements behind it are passed over. Free with `ASN1_CRL_FreeRevokedCertificate`.
+/// Returns 0, -1 (also fewer than two elements), -2, -5, -7 (it or the extensions are no SEQUENCE,
+/// or the date is no time), -7000 (memory, or see `ASN1_ReadUtcTime`) or -8 (also null bytes of
+/// length 0).
+VELKORD_API int32_t ASN1_CRL_RevokedCertificateDecode(const uint8_t* bytes, uint32_t length,
+                                                      RevokedCertificate** out);
+
+// -------------------------------------------------------------------------------------------------
+// Revocation lists: the signed part
+// -------------------------------------------------------------------------------------------------
+
+/// Makes an empty record. Free with `ASN1_CRL_FreeTbsCertList`. Returns 0, -7000 (memory) or -8.
+VELKORD_API int32_t ASN1_CRL_CreateTbsCertList(TbsCertList** out);
+
+/// Releases a record and its nodes.
+VELKORD_API void ASN1_CRL_FreeTbsCertList(TbsCertList* record);
+
+/// Sets the version number. Only 2 is written, as INTEGER 2. Returns 0 or -8.
+VELKORD_API int32_t ASN1_CRL_TbsCertListSetVersion(TbsCertList* record, uint32_t version);
+
+/// Sets a field to a copy of a SEQUENCE TLV node, its own length rewritten in shortest form, and
+/// the flag of an optional one to 1. What the field held before is released. Returns 0, -1 (an
+/// element that overruns, memory), -2, -7 (no SEQUENCE) or -8.
+/// @{
+VELKORD_API int32_t ASN1_CRL_TbsCertListSetSignatureAlgorithmIdentifier(TbsCertList* record,
+                                                                        const Anybuf* value);
+VELKORD_API int32_t ASN1_CRL_TbsCertListSetIssuer(TbsCertList* record, const Anybuf* value);
+VELKORD_API int32_t ASN1_CRL_TbsCertListSetRevokedCertificates(TbsCertList* record,
+                                                               const Anybuf* value);
+VELKORD_API int32_t ASN1_CRL_TbsCertListSetCrlExtensions(TbsCertList* record, const Anybuf* value);
+/// @}
+
+/// Sets the time of this list, in seconds, and the form of both times: 1 for UTCTime, any other
+/// number for GeneralizedTime. A negative time fails when it is written. Returns 0 or -8.
+VELKORD_API int32_t ASN1_CRL_TbsCertListSetThisUpdate(TbsCertList* record, int32_t time,
+                                                      uint32_t form);
+
+/// Sets the time of the next list, in seconds, and its flag. Returns 0 or -8.
+VELKORD_API int32_t ASN1_CRL_TbsCertListSetNextUpdate(TbsCertList* record, int32_t time);
+
+/// Makes the SEQUENCE TLV node of the record: each optional field when its flag is 1, the
+/// extensions under `[0]` EXPLICIT. The record does not change. Free with `ASN1_FreeAnybuf`.
+/// Returns 0, -1 (memory), -4 (a negative time) or -8 (also a field that is to be written and not
+/// set).
+VELKORD_API int32_t ASN1_CRL_TbsCertListWriteData(const TbsCertList* record, Anybuf** out);
+
+/// Decodes the DER of one signed part of exactly `length` bytes into a new record. Optional
+/// elements are told by their first octet: 0x02 the version; behind thisUpdate, which sets the
+/// form, 0x17 or 0x18 nextUpdate, then 0x30 the revoked certificates; whatever stands next is the
+/// extensions, of which the content is kept. Elements behind them are passed over. A version other
+/// than 2, and a nextUpdate in the other form than thisUpdate, are not written again as they were.
+/// Free with `ASN1_CRL_FreeTbsCertList`. Returns 0, -1 (also a required element missing), -2, -5,
+/// -7 (it, the algorithm or the issuer is no SEQUENCE, or thisUpdate no time), -7000 (memory, or
+/// see `ASN1_ReadUtcTime`) or -8 (also null bytes of length 0).
+VELKORD_API int32_t ASN1_CRL_TbsCertListDecode(const uint8_t* bytes, uint32_t length,
+                                               TbsCertList** out);
+
+// -------------------------------------------------------------------------------------------------
+// PKCS#10: the signed part
+// -------------------------------------------------------------------------------------------------
+
+/// Makes an empty record. Free with `ASN1_FreePKCS10`. Returns 0, -7000 (memory) or -8.
+VELKORD_API int32_t ASN1_CreatePKCS10(PKCS10** out);
+
+/// Releases a record and its nodes.
+VELKORD_API void ASN1_FreePKCS10(PKCS10* record);
+
+/// Sets the version, 0 for version 1. Each setter of this record releases what the field held
+/// before. Returns 0, -1 (memory) or -8.
+VELKORD_API int32_t ASN1_PKCS10SetVersion(PKCS10* record, uint32_t version);
+
+/// Sets a field to a copy of a SEQUENCE TLV node, its own length rewritten in shortest form.
+/// Returns 0, -1 (an element that overruns, memory), -2, -7 (no SEQUENCE) or -8.
+/// @{
+VELKORD_API int32_t ASN1_PKCS10SetSubject(PKCS10* record, const Anybuf* value);
+VELKORD_API int32_t ASN1_PKCS10SetSubjectPublicKeyInfo(PKCS10* record, const Anybuf* value);
+/// @}
+
+/// Sets the attributes from a SET TLV node, under `[0]` IMPLICIT, as `ASN1_WriteImplicit` does.
+/// Returns 0, -1 (length octets, memory), -2 or -8.
+VELKORD_API int32_t ASN1_PKCS10SetAttributes(PKCS10* record, const Anybuf* value);
+
+/// Makes the SEQUENCE TLV node of the four fields, all of them required. The record does not
+/// change. Free with `ASN1_FreeAnybuf`.
+/// Returns 0, -1 (memory) or -8 (also a field not set).
+VELKORD_API int32_t ASN1_PKCS10WriteData(const PKCS10* record, Anybuf** out);
+
+/// Decodes the DER of one signed part of exactly `length` bytes into a new record. The first
+/// element is read as a number and written again. The attributes may be missing, and such a record
+/// can be written only after they are set; they keep the tag number of their element, and come back
+/// constructed. Elements behind them are passed over. Free with `ASN1_FreePKCS10`.
+/// Returns 0, -1 (also fewer than three elements), -2, -7 (it or one of elements 2 and 3 is no
+/// SEQUENCE), -7000 (memory) or -8 (also null bytes of length 0).
+VELKORD_API int32_t ASN1_PKCS10Decode(const uint8_t* bytes, uint32_t length, PKCS10** out);
+
+// -------------------------------------------------------------------------------------------------
+// PKCS#6: the signed part
+// -------------------------------------------------------------------------------------------------
+
+/// Makes an empty record. Free with `ASN1_PKCS6_FreeExtendedCertificateInfo`. Returns 0, -7000
+/// (memory) or -8.
+VELKORD_API int32_t ASN1_PKCS6_CreateExtendedCertificateInfo(ExtendedCertificateInfo** out);
+
+/// Releases a record and its nodes.
+VELKORD_API void ASN1_PKCS6_FreeExtendedCertificateInfo(ExtendedCertificateInfo* record);
+
+/// Sets the version number. Returns 0 or -8.
+VELKORD_API int32_t ASN1_PKCS6_SetCertificateInfoVersion(ExtendedCertificateInfo* record,
+                                                         uint32_t version);
+
+/// Sets a field to a copy of a SEQUENCE or a SET TLV node, its own length rewritten in shortest
+/// form. What the field held before is released. Returns 0, -1 (an element that overruns, memory),
+/// -2, -7 (the certificate is no SEQUENCE, the attributes are no SET) or -8.
+/// @{
+VELKORD_API int32_t ASN1_PKCS6_SetCertificateInfoX509(ExtendedCertificateInfo* record,
+                                                      const Anybuf* value);
+VELKORD_API int32_t ASN1_PKCS6_SetCertificateInfoAttributes(ExtendedCertificateInfo* record,
+                                                            const Anybuf* value);
+/// @}
+
+/// Makes the SEQUENCE TLV node of the three fields. The record does not change. Free with
+/// `ASN1_FreeAnybuf`.
+/// Returns 0, -1 (memory) or -8 (also a field not set).
+VELKORD_API int32_t ASN1_PKCS6_CertificateInfoWriteData(const ExtendedCertificateInfo* record,
+                                                        Anybuf** out);
+
+/// Decodes the DER of one signed part of exactly `length` bytes into a new record. Elements behind
+/// the third are passed over. Free with `ASN1_PKCS6_FreeExtendedCertificateInfo`.
+/// Returns 0, -1 (also fewer than three elements), -2, -7 (it or the certificate is no SEQUENCE,
+/// the attributes are no SET), -7000 (memory) or -8 (also null bytes of length 0).
+VELKORD_API int32_t ASN1_PKCS6_CertificateInfoDecode(const uint8_t* bytes, uint32_t length,
+                                                     ExtendedCertificateInfo** out);
+
+// -------------------------------------------------------------------------------------------------
+// PKCS#7: the ContentInfo around a message
+// -------------------------------------------------------------------------------------------------
+
+/// Makes an empty record. Free with `ASN1_PKCS7_FreeContext`. Returns 0, -7000 (memory) or -8.
+VELKORD_API int32_t ASN1_PKCS7_CreateContext(PKCS7Context** out);
+
+/// Releases a record and its nodes.
+VELKORD_API void ASN1_PKCS7_FreeContext(PKCS7Context* record);
+
+/// Sets the content type to a copy of a TLV node of any type. What the field held before is
+/// released. Returns 0, -1 (memory), -2 (no tag) or -8.
+VELKORD_API int32_t ASN1_PKCS7_SetContentType(PKCS7Context* record, const Anybuf* value);
+
+/// Sets the content from a node of any bytes, under `[0]` EXPLICIT. What the field held before is
+/// released. Returns 0, -1 (memory) or -8.
+VELKORD_API int32_t ASN1_PKCS7_SetContent(PKCS7Context* record, const Anybuf* value);
+
+/// Makes the SEQUENCE TLV node of the content type and of the content, if that is set. The record
+/// does not change. Free with `ASN1_FreeAnybuf`. Returns 0, -1 (memory) or -8 (also without a
+/// content type).
+VELKORD_API int32_t ASN1_PKCS7_WriteData(const PKCS7Context* record, Anybuf** out);
+
+/// Decodes the DER of one ContentInfo of exactly `length` bytes into a new record. The content may
+/// be missing; its tag is not tested and comes off, so that a decoded record is not written as it
+/// was read. Elements behind it are passed over. Free with `ASN1_PKCS7_FreeContext`.
+/// Returns 0, -1 (also an empty SEQUENCE), -2, -7 (no SEQUENCE), -7000 (memory) or -8 (also null
+/// bytes of length 0).
+VELKORD_API int32_t ASN1_PKCS7_Decode(const uint8_t* bytes, uint32_t length, PKCS7Context** out);
+
+// -------------------------------------------------------------------------------------------------
+// RSA keys. A null argument gives -1, and nothing is allocated.
+// -------------------------------------------------------------------------------------------------
+
+/// Writes the DER of a key to `der` and its size to `derLen`: RSAPublicKey, at most 526 bytes, or
+/// RSAPrivateKey of PKCS#1, at most 1450. A null `der` gives the size alone. With one of the five
+/// last numbers of a private key 0, the result is 0 and **nothing is written**: preset `derLen` to
+/// 0. Returns 0, or -1 when any other number is 0.
+/// @{
+VELKORD_API int32_t ZantEncodePublicKey(const ZantPublicKey* key, uint8_t* der, uint32_t* derLen);
+VELKORD_API int32_t ZantEncodePrivateKey(const ZantPrivateKey* key, uint8_t* der, uint32_t* derLen);
+/// @}
+
+/// Fills a record from DER of exactly `derLen` bytes. A private key may stand in a PrivateKeyInfo
+/// of PKCS#8, told by a second element with 13 bytes of content; no tag inside the outer SEQUENCE
+/// is tested. A failure while reading leaves the numbers read so far and zero bytes elsewhere; a
+/// null argument and a `derLen` below 1 leave the record alone. A record that was decoded is not
+/// ready to be encoded unless every number fills its field.
+/// Returns 0, -1 (also a missing element, a number too long for its field), -2 or -7 (no SEQUENCE).
+/// @{
+VELKORD_API int32_t ZantDecodePublicKey(ZantPublicKey* key, const uint8_t* der, int32_t derLen);
+VELKORD_API int32_t ZantDecodePrivateKey(ZantPrivateKey* key, const uint8_t* der, int32_t derLen);
+/// @}
+
+// -------------------------------------------------------------------------------------------------
+// Keys of elliptic curves. Nothing is allocated.
+// -------------------------------------------------------------------------------------------------
+
+/// Writes the 312 bytes of a SubjectPublicKeyInfo to `der` and 312 to `derLen`. It states one
+/// constant curve of 256 bits by its parameters; `bits` is not read. Returns 0 or -1 (a null
+/// argument).
+VELKORD_API int32_t ASN1_EccPubkey2Der(const EccPubkey* key, uint8_t* der, uint32_t* derLen);
+
+/// Fills a record from the DER of a SubjectPublicKeyInfo of exactly `derLen` bytes, whatever its
+/// algorithm. The point's first byte is not tested. Returns 0, or -1, the record then untouched:
+/// the DER does not add up, the point is shorter than 65 bytes, an argument is null.
+VELKORD_API int32_t ASN1_Der2EccPubkey(const uint8_t* der, uint32_t derLen, EccPubkey* key);
+
+/// Fills a record from the DER of an ECPrivateKey in a PrivateKeyInfo of PKCS#8, of exactly
+/// `derLen` bytes, whatever its algorithm. A value shorter than 32 bytes stands at the start of
+/// `d`, and the bytes behind it stay. Returns 0, or -1, the record then untouched: the DER does not
+/// add up, an element is missing, the value is longer than 32 bytes, an argument is null.
+VELKORD_API int32_t ASN1_Der2EccPrikey(const uint8_t* der, uint32_t derLen, EccPrikey* key);
+
+// -------------------------------------------------------------------------------------------------
+// SM2. The result is always 0. What cannot be done, an argument being null or the DER malformed,
+// leaves all out arguments alone: preset the lengths to 0. Nothing is allocated.
+// -------------------------------------------------------------------------------------------------
+
+/// Writes the SEQUENCE of two positive INTEGERs to `der`, whose room is that of both numbers and 2
+/// to 6 bytes for each header of the three, 1 more for each number. Leading zero bytes stay.
+VELKORD_API int32_t ASN1_SM2_SM2SignatureEncode(const uint8_t* r, uint32_t rLen, const uint8_t* s,
+                                                uint32_t sLen, uint8_t* der, uint32_t* derLen);
+
+/// Gives the two numbers of a signature, each without the zero byte that keeps it positive. `r` and
+/// `s` need room for what the DER holds.
+VELKORD_API int32_t ASN1_SM2_SM2SignatureDecode(uint8_t* r, uint32_t* rLen, uint8_t* s,
+                                                uint32_t* sLen, const uint8_t* der,
+                                                uint32_t derLen);
+
+/// Writes a private value as an INTEGER to `der`, whose room is that of the value, 1 byte more and
+/// 2 to 6 bytes for the header. Leading zero bytes stay.
+VELKORD_API int32_t ASN1_SM2_PrikeyEncode(const uint8_t* value, uint32_t valueLen, uint8_t* der,
+                                          uint32_t* derLen);
+
+/// Gives a private value without the zero byte that keeps it positive. `value` needs room for what
+/// the DER holds.
+VELKORD_API int32_t ASN1_SM2_PrikeyDecode(uint8_t* value, uint32_t* valueLen, const uint8_t* der,
+                                          uint32_t derLen);
+
+/// Writes a public point as a BIT STRING to `der`: 0x04, X and Y, together at most 256 bytes, and
+/// at most 5 bytes in front. Its unused-bits octet comes from its last byte as in
+/// `ASN1_CreateAnybuf`.
+VELKORD_API int32_t ASN1_SM2_PubkeyEncode(const uint8_t* x, uint32_t xLen, const uint8_t* y,
+                                          uint32_t yLen, uint8_t* der, uint32_t* derLen);
+
+/// Gives the two halves, of equal length, of what follows the first byte of a public point; an odd
+/// last byte is left out. `x` and `y` need room for half of the DER each.
+VELKORD_API int32_t ASN1_SM2_PubkeyDecode(uint8_t* x, uint32_t* xLen, uint8_t* y, uint32_t* yLen,
+                                          const uint8_t* der, uint32_t derLen);
 
 // -------------------------------------------------------------------------------------------------
 // Base64 and PEM. No argument may be null, but for input of length 0.

@@ -33,16 +33,15 @@ int32_t ASN1_GetAlgorithmIdentifier(const Anybuf* source, Anybuf** outOid, Anybu
                                     Anybuf** outParameterOid) {
   if (source == nullptr) return VELKORD_NULL_ARGUMENT;
   DerElements elements;
-  DerElement element;
   Bytes oid;
   VELKORD_TRY(elements.Open(NodeBytes(*source), kSequenceType));
-  VELKORD_TRY(elements.Next(element));
-  VELKORD_TRY(DerOpenContent(element, oid));
+  VELKORD_TRY(DerNextContent(elements, oid));
 
   // Each parameter is read, and the last one counts.
   ParameterKind kind = ParameterKind::kNone;
   Bytes parameter;
   while (!elements.AtEnd()) {
+    DerElement element;
     VELKORD_TRY(elements.Next(element));
     if (element.whole[0] == kNull) {
       kind = ParameterKind::kNone;

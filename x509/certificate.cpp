@@ -38,10 +38,5 @@ int32_t ASN1_CertificateWriteData(const Certificate* record, Anybuf** out) {
 }
 
 int32_t ASN1_CertificateDecode(const uint8_t* bytes, uint32_t length, Certificate** out) {
-  if (bytes == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
-  Owned<Certificate, ASN1_FreeCertificate> record;
-  VELKORD_TRY(CreateRecord(record.Out()));
-  VELKORD_TRY(Shape::Fill(*record, Bytes(bytes, length), MakeSignature));
-  *out = record.release();
-  return VELKORD_OK;
+  return Shape::Decode(bytes, length, out, MakeSignature);
 }

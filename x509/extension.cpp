@@ -8,20 +8,16 @@ namespace velkord {
 
 int32_t OpenExtension(Bytes in, ExtensionView& extension) {
   DerElements elements;
-  DerElement element;
   VELKORD_TRY(elements.Open(in, kSequenceType));
-  VELKORD_TRY(elements.Next(element));
-  VELKORD_TRY(DerOpenContent(element, extension.oid));
-  VELKORD_TRY(elements.Next(element));
+  VELKORD_TRY(DerNextContent(elements, extension.oid));
   extension.critical = Bytes();
   if (elements.Count() == 3) {
     Bytes boolean;
-    VELKORD_TRY(DerOpenContent(element, boolean));
+    VELKORD_TRY(DerNextContent(elements, boolean));
     if (boolean.empty()) return VELKORD_SIZE_MISMATCH;
     extension.critical = boolean.first(1);
-    VELKORD_TRY(elements.Next(element));
   }
-  return DerOpenContent(element, extension.value);
+  return DerNextContent(elements, extension.value);
 }
 
 }  // namespace velkord
@@ -31,7 +27,7 @@ using namespace velkord;
 int32_t ASN1_SetExtension(const Anybuf* oid, const Anybuf* critical, const Anybuf* value,
                           Anybuf** out) {
   if (out == nullptr) return VELKORD_NULL_ARGUMENT;
-  return JoinFields({oid, critical == nullptr ? &kAbsentField : critical, value}, out);
+  return JoinFields({oid, OptionalField(critical != nullptr ? 1 : 0, critical), value}, out);
 }
 
 int32_t ASN1_GetExtensionOne(int32_t /*id*/, const uint8_t* oid, uint32_t oidLength,

@@ -1,6 +1,6 @@
 // SubjectPublicKeyInfo and the RSA public key that it can hold.
 #include "der/forward.h"
-#include "der/node.h"
+#include "x509/record.h"
 
 using namespace velkord;
 
@@ -28,7 +28,7 @@ int32_t ASN1_GetRSAPublicKey(const Anybuf* source, Anybuf** outModulus, Anybuf**
 int32_t ASN1_SetSubjectPublicKeyInfo(const Anybuf* algorithm, const Anybuf* key, Anybuf** out) {
   if (algorithm == nullptr || key == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
   const Bytes bits = NodeBytes(*key);
-  const DerHeader header = DerHeader::ForBitString(ImpliedUnusedBits(bits), bits.size());
+  const DerHeader header = DerHeader::For(kBitString, bits, ImpliedUnusedBits(bits));
   return DerJoin(kSequence, {NodeBytes(*algorithm), header.View(), bits}, out);
 }
 
@@ -37,14 +37,11 @@ int32_t ASN1_GetSubjectPublicKeyInfo(const Anybuf* source, Anybuf** outAlgorithm
     return VELKORD_NULL_ARGUMENT;
   }
   DerElements elements;
-  DerElement element;
   NodePtr algorithm;
   Bytes bits;
   VELKORD_TRY(elements.Open(NodeBytes(*source), kSequenceType));
-  VELKORD_TRY(elements.Next(element));
-  VELKORD_TRY(DerRewrap(kSequence, element.whole, algorithm.Out()));
-  VELKORD_TRY(elements.Next(element));
-  VELKORD_TRY(DerOpenContent(element, bits));
+  VELKORD_TRY(NextSequence(elements, *algorithm.Out()));
+  VELKORD_TRY(DerNextContent(elements, bits));
   VELKORD_TRY(DerBuild(kBitString, bits, outKey));
   *outAlgorithm = algorithm.release();
   return VELKORD_OK;

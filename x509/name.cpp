@@ -9,10 +9,8 @@ namespace velkord {
 
 int32_t OpenAttribute(Bytes in, AttributeView& attribute) {
   DerElements elements;
-  DerElement type;
   VELKORD_TRY(elements.Open(in, kSequenceType));
-  VELKORD_TRY(elements.Next(type));
-  VELKORD_TRY(DerOpenContent(type, attribute.type));
+  VELKORD_TRY(DerNextContent(elements, attribute.type));
   return elements.Next(attribute.value);
 }
 
@@ -89,7 +87,7 @@ int32_t ASN1_GetDerRelativeDistinguishedNameOne(const Anybuf* value, int32_t /*i
   const DerHeader attribute(kSequence, oid.Total() + valueBytes.size());
   Anybuf* node;
   uint8_t* place;
-  VELKORD_TRY(DerBuildHeader(kSet, attribute.Total(), &node, place));
+  VELKORD_TRY(DerBuildHeader(DerHeader(kSet, attribute.Total()), &node, place));
   place = Put(place, attribute.View());
   place = Put(place, oid.View());
   // A refused text stands for an identifier without content.

@@ -34,30 +34,81 @@ inline void ReplaceField(Anybuf*& field, NodePtr& node) {
   ASN1_FreeAnybuf(earlier);
 }
 
-// Sets a field to a finished SEQUENCE, its length rewritten in shortest form. 0, -1, -2, -7 or -8.
-template <typename Record>
-int32_t SetSequence(Record* record, Anybuf* Record::*field, const Anybuf* value) {
+// Sets a field to the node that `make` makes of the value. 0, the code of `make`, or -8.
+template <typename Record, typename Make>
+int32_t SetField(Record* record, Anybuf* Record::*field, const Anybuf* value, Make make) {
   if (record == nullptr || value == nullptr) return VELKORD_NULL_ARGUMENT;
   NodePtr node;
-  VELKORD_TRY(DerRewrap(kSequence, NodeBytes(*value), node.Out()));
+  VELKORD_TRY(make(*value, node.Out()));
   ReplaceField(record->*field, node);
   return VELKORD_OK;
 }
 
-// Stands in a writer's list for an optional field that is not written.
-inline constexpr Anybuf kAbsentField{};
+// Sets a field to a finished SEQUENCE, its length rewritten in shortest form. 0, -1, -2, -7 or -8.
+template <typename Record>
+int32_t SetSequence(Record* record, Anybuf* Record::*field, const Anybuf* value) {
+  return SetField(record, field, value, [](const Anybuf& node, Anybuf** out) {
+    return DerRewrap(kSequence, NodeBytes(node), out);
+  });
+}
+
+// Sets a field to a copy of an element of any type. 0, -1, -2 or -8.
+template <typename Record>
+int32_t SetElement(Record* record, Anybuf* Record::*field, const Anybuf* value) {
+  return SetField(record, field, value, [](const Anybuf& node, Anybuf** out) {
+    return DerCopyElement(NodeBytes(node), out);
+  });
+}
+
+// An element of a record that is to be written: a field, or bytes, none for an absent element.
+struct Field {
+  // NOLINTNEXTLINE(google-explicit-constructor): a writer's list shows the fields alone.
+  Field(const Anybuf* node) : set(node != nullptr), bytes(set ? NodeBytes(*node) : Bytes()) {}
+  // NOLINTNEXTLINE(google-explicit-constructor)
+  Field(Bytes element) : set(true), bytes(element) {}
+
+  bool set;
+  Bytes bytes;
+};
+
+// An optional field, which its flag alone makes present.
+inline Field OptionalField(uint32_t flag, const Anybuf* node) {
+  return flag == 1 ? Field(node) : Field(Bytes());
+}
 
 // Makes the SEQUENCE of a record's fields. 0, -1, or -8 when a field is not set.
-inline int32_t JoinFields(std::initializer_list<const Anybuf*> fields, Anybuf** out) {
-  for (const Anybuf* field : fields) {
-    if (field == nullptr) return VELKORD_NULL_ARGUMENT;
+inline int32_t JoinFields(std::initializer_list<Field> fields, Anybuf** out) {
+  for (const Field& field : fields) {
+    if (!field.set) return VELKORD_NULL_ARGUMENT;
   }
   return DerJoinEach(
       kSequence,
       [&](auto visit) {
-        for (const Anybuf* field : fields) visit(NodeBytes(*field));
+        for (const Field& field : fields) visit(field.bytes);
       },
       out);
+}
+
+// Fills a field with the next element, a SEQUENCE, its length rewritten in shortest form.
+// 0, -1, -2 or -7.
+inline int32_t NextSequence(DerElements& elements, Anybuf*& field) {
+  DerElement element;
+  VELKORD_TRY(elements.Next(element));
+  return DerRewrap(kSequence, element.whole, &field);
+}
+
+// Makes a record of the bytes of a SEQUENCE. `fill` fills it from the elements, and when that fails
+// nothing is left. 0, -1, -2, -7, -7000, -8, or the code of `fill`.
+template <auto kFree, typename Record, typename Fill>
+int32_t DecodeRecord(const uint8_t* bytes, uint32_t length, Record** out, Fill fill) {
+  if (bytes == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
+  Owned<Record, kFree> record;
+  VELKORD_TRY(CreateRecord(record.Out()));
+  DerElements elements;
+  VELKORD_TRY(elements.Open(Bytes(bytes, length), kSequenceType));
+  VELKORD_TRY(fill(*record, elements));
+  *out = record.release();
+  return VELKORD_OK;
 }
 
 }  // namespace velkord

@@ -110,3 +110,65 @@ VELKORD_OFFSET(X509Cert, block5, 80, 160);
 VELKORD_OFFSET(X509Cert, word22, 84, 168);
 VELKORD_OFFSET(X509Cert, entriesB, 88, 176);
 VELKORD_SIZE(X509Cert, 92, 184);
+
+VELKORD_OFFSET(RevokedCertificate, hasCrlEntryExtensions, 0, 0);
+VELKORD_OFFSET(RevokedCertificate, certificateSerialNumber, 4, 8);
+VELKORD_OFFSET(RevokedCertificate, revocationDate, 8, 16);
+VELKORD_OFFSET(RevokedCertificate, crlEntryExtensions, 12, 24);
+VELKORD_SIZE(RevokedCertificate, 16, 32);
+
+VELKORD_OFFSET(TbsCertList, hasRevokedCertificates, 0, 0);
+VELKORD_OFFSET(TbsCertList, hasCrlExtensions, 4, 4);
+VELKORD_OFFSET(TbsCertList, hasNextUpdate, 8, 8);
+VELKORD_OFFSET(TbsCertList, timeForm, 12, 12);
+VELKORD_OFFSET(TbsCertList, version, 16, 16);
+VELKORD_OFFSET(TbsCertList, signature, 20, 24);
+VELKORD_OFFSET(TbsCertList, issuer, 24, 32);
+VELKORD_OFFSET(TbsCertList, thisUpdate, 28, 40);
+VELKORD_OFFSET(TbsCertList, nextUpdate, 32, 44);
+VELKORD_OFFSET(TbsCertList, revokedCertificates, 36, 48);
+VELKORD_OFFSET(TbsCertList, crlExtensions, 40, 56);
+VELKORD_SIZE(TbsCertList, 44, 64);
+
+VELKORD_OFFSET(PKCS10, version, 0, 0);
+VELKORD_OFFSET(PKCS10, subject, 4, 8);
+VELKORD_OFFSET(PKCS10, subjectPublicKeyInfo, 8, 16);
+VELKORD_OFFSET(PKCS10, attributes, 12, 24);
+VELKORD_SIZE(PKCS10, 16, 32);
+
+VELKORD_OFFSET(ExtendedCertificateInfo, version, 0, 0);
+VELKORD_OFFSET(ExtendedCertificateInfo, certificate, 4, 8);
+VELKORD_OFFSET(ExtendedCertificateInfo, attributes, 8, 16);
+VELKORD_SIZE(ExtendedCertificateInfo, 12, 24);
+
+VELKORD_OFFSET(ExtendedCertificate, extendedCertificateInfo, 0, 0);
+VELKORD_OFFSET(ExtendedCertificate, signatureAlgorithm, 4, 8);
+VELKORD_OFFSET(ExtendedCertificate, signature, 8, 16);
+VELKORD_SIZE(ExtendedCertificate, 12, 24);
+
+VELKORD_OFFSET(PKCS7Context, contentType, 0, 0);
+VELKORD_OFFSET(PKCS7Context, content, 4, 8);
+VELKORD_SIZE(PKCS7Context, 8, 16);
+
+VELKORD_OFFSET(ZantPublicKey, modulus, 0, 0);
+VELKORD_OFFSET(ZantPublicKey, publicExponent, 256, 256);
+VELKORD_SIZE(ZantPublicKey, 512, 512);
+
+VELKORD_OFFSET(ZantPrivateKey, modulus, 0, 0);
+VELKORD_OFFSET(ZantPrivateKey, publicExponent, 256, 256);
+VELKORD_OFFSET(ZantPrivateKey, privateExponent, 512, 512);
+VELKORD_OFFSET(ZantPrivateKey, prime1, 768, 768);
+VELKORD_OFFSET(ZantPrivateKey, prime2, 896, 896);
+VELKORD_OFFSET(ZantPrivateKey, exponent1, 1024, 1024);
+VELKORD_OFFSET(ZantPrivateKey, exponent2, 1152, 1152);
+VELKORD_OFFSET(ZantPrivateKey, coefficient, 1280, 1280);
+VELKORD_SIZE(ZantPrivateKey, 1408, 1408);
+
+VELKORD_OFFSET(EccPubkey, bits, 0, 0);
+VELKORD_OFFSET(EccPubkey, x, 4, 4);
+VELKORD_OFFSET(EccPubkey, y, 36, 36);
+VELKORD_SIZE(EccPubkey, 68, 68);
+
+VELKORD_OFFSET(EccPrikey, bits, 0, 0);
+VELKORD_OFFSET(EccPrikey, d, 4, 4);
+VELKORD_SIZE(EccPrikey, 36, 36);

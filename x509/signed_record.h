@@ -1,5 +1,6 @@
-// The record that certificates, revocation lists and certification requests are at their outermost
-// level: a signed SEQUENCE, the AlgorithmIdentifier and the signature, a BIT STRING.
+// The record that certificates, revocation lists, certification requests and extended certificates
+// are at their outermost level: a signed SEQUENCE, the AlgorithmIdentifier and the signature, a BIT
+// STRING.
 #ifndef VELKORD_X509_SIGNED_RECORD_H_
 #define VELKORD_X509_SIGNED_RECORD_H_
 
@@ -19,11 +20,9 @@ struct SignedRecord {
   }
 
   static int32_t SetSignature(Record* record, const Anybuf* value) {
-    if (record == nullptr || value == nullptr) return VELKORD_NULL_ARGUMENT;
-    NodePtr node;
-    VELKORD_TRY(DerCopyBitString(NodeBytes(*value), node.Out()));
-    ReplaceField(record->*kSignature, node);
-    return VELKORD_OK;
+    return SetField(record, kSignature, value, [](const Anybuf& node, Anybuf** out) {
+      return DerCopyBitString(NodeBytes(node), out);
+    });
   }
 
   static int32_t WriteData(const Record* record, Anybuf** out) {
@@ -33,19 +32,21 @@ struct SignedRecord {
 
   static void Free(Record* record) { FreeRecord<kSigned, kAlgorithm, kSignature>(record); }
 
-  // Fills an empty record from the bytes of the whole; elements behind the third are passed over.
-  // `makeSignature` makes the signature's node of the third element.
-  template <typename MakeSignature>
-  static int32_t Fill(Record& record, Bytes in, MakeSignature makeSignature) {
-    DerElements elements;
-    VELKORD_TRY(elements.Open(in, kSequenceType));
-    DerElement element;
-    VELKORD_TRY(elements.Next(element));
-    VELKORD_TRY(DerRewrap(kSequence, element.whole, &(record.*kSigned)));
-    VELKORD_TRY(elements.Next(element));
-    VELKORD_TRY(DerRewrap(kSequence, element.whole, &(record.*kAlgorithm)));
-    VELKORD_TRY(elements.Next(element));
-    return makeSignature(element, &(record.*kSignature));
+  // Elements behind the third are passed over. `makeSignature` makes the signature's node of it.
+  static int32_t Decode(const uint8_t* bytes, uint32_t length, Record** out,
+                        int32_t (*makeSignature)(const DerElement&, Anybuf**) = CopySignature) {
+    return DecodeRecord<Free>(bytes, length, out, [=](Record& record, DerElements& elements) {
+      VELKORD_TRY(NextSequence(elements, record.*kSigned));
+      VELKORD_TRY(NextSequence(elements, record.*kAlgorithm));
+      DerElement element;
+      VELKORD_TRY(elements.Next(element));
+      return makeSignature(element, &(record.*kSignature));
+    });
+  }
+
+ private:
+  static int32_t CopySignature(const DerElement& element, Anybuf** out) {
+    return DerCopyBitString(element.whole, out);
   }
 };
 

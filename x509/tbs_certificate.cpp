@@ -9,19 +9,18 @@ using namespace velkord;
 
 namespace {
 
-using Field = Anybuf* TBSCertificate::*;
+using FieldPointer = Anybuf* TBSCertificate::*;
 
 constexpr uint32_t kVersionTag = 0;
 constexpr uint32_t kIssuerUniqueIdTag = 1;
 constexpr uint32_t kSubjectUniqueIdTag = 2;
 constexpr uint32_t kExtensionsTag = 3;
 
-int32_t SetUniqueId(TBSCertificate* record, Field field, uint32_t TBSCertificate::*flag,
+int32_t SetUniqueId(TBSCertificate* record, FieldPointer field, uint32_t TBSCertificate::*flag,
                     const Anybuf* value, uint32_t tagNumber) {
-  if (record == nullptr || value == nullptr) return VELKORD_NULL_ARGUMENT;
-  NodePtr node;
-  VELKORD_TRY(ASN1_WriteImplicit(value, tagNumber, node.Out()));
-  ReplaceField(record->*field, node);
+  VELKORD_TRY(SetField(record, field, value, [tagNumber](const Anybuf& node, Anybuf** out) {
+    return ASN1_WriteImplicit(&node, tagNumber, out);
+  }));
   record->*flag = 1;
   return VELKORD_OK;
 }
@@ -86,14 +85,12 @@ int32_t Fill(TBSCertificate& record, DerElements& elements) {
   VELKORD_TRY(elements.Next(element));
   VELKORD_TRY(DerOpenContent(element, content));
   VELKORD_TRY(DerBuild(ExplicitTag(element.tag), content, &record.versionNode));
-  VELKORD_TRY(elements.Next(element));
-  VELKORD_TRY(DerOpenContent(element, content));
+  VELKORD_TRY(DerNextContent(elements, content));
   VELKORD_TRY(DerBuild(kInteger, content, &record.serialNumber));
-  for (const Field field :
+  for (const FieldPointer field :
        {&TBSCertificate::signature, &TBSCertificate::issuer, &TBSCertificate::validity,
         &TBSCertificate::subject, &TBSCertificate::subjectPublicKeyInfo}) {
-    VELKORD_TRY(elements.Next(element));
-    VELKORD_TRY(DerRewrap(kSequence, element.whole, &(record.*field)));
+    VELKORD_TRY(NextSequence(elements, record.*field));
   }
   Optionals optionals;
   while (!elements.AtEnd()) {
@@ -117,10 +114,8 @@ void ASN1_FreeTBSCertificate(TBSCertificate* record) {
 
 int32_t ASN1_TBSCertificateSetVersion(TBSCertificate* record, uint32_t version) {
   if (record == nullptr) return VELKORD_NULL_ARGUMENT;
-  const IntegerOctets octets(version);
-  const DerHeader integer(kInteger, octets.View().size());
   NodePtr node;
-  VELKORD_TRY(DerJoin(ExplicitTag(kVersionTag), {integer.View(), octets.View()}, node.Out()));
+  VELKORD_TRY(DerBuild(ExplicitTag(kVersionTag), IntegerElement(version).Whole(), node.Out()));
   ReplaceField(record->versionNode, node);
   record->version = version;
   return VELKORD_OK;
@@ -166,24 +161,20 @@ int32_t ASN1_TBSCertificateSetSubjectUniqueID(TBSCertificate* record, const Anyb
 }
 
 int32_t ASN1_TBSCertificateSetExtensions(TBSCertificate* record, const Anybuf* value) {
-  if (record == nullptr) return VELKORD_NULL_ARGUMENT;
-  NodePtr node;
-  VELKORD_TRY(ASN1_WriteExplicit(value, kExtensionsTag, node.Out()));
-  ReplaceField(record->extensions, node);
+  VELKORD_TRY(SetField(
+      record, &TBSCertificate::extensions, value,
+      [](const Anybuf& node, auto out) { return ASN1_WriteExplicit(&node, kExtensionsTag, out); }));
   record->hasExtensions = 1;
   return VELKORD_OK;
 }
 
 int32_t ASN1_TBSCertificateWriteData(const TBSCertificate* record, Anybuf** out) {
   if (record == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
-  const auto optional = [](uint32_t flag, const Anybuf* field) {
-    return flag == 1 ? field : &kAbsentField;
-  };
   return JoinFields({record->versionNode, record->serialNumber, record->signature, record->issuer,
                      record->validity, record->subject, record->subjectPublicKeyInfo,
-                     optional(record->hasIssuerUniqueID, record->issuerUniqueID),
-                     optional(record->hasSubjectUniqueID, record->subjectUniqueID),
-                     optional(record->hasExtensions, record->extensions)},
+                     OptionalField(record->hasIssuerUniqueID, record->issuerUniqueID),
+                     OptionalField(record->hasSubjectUniqueID, record->subjectUniqueID),
+                     OptionalField(record->hasExtensions, record->extensions)},
                     out);
 }
 

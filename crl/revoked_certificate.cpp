@@ -1,0 +1,68 @@
+// One entry of a revocation list.
+#include "der/time.h"
+#include "x509/record.h"
+
+using namespace velkord;
+
+namespace {
+
+// A date is read and written again in the form that it has.
+int32_t RewriteDate(Bytes in, uint32_t dataType, Anybuf** out) {
+  const uint8_t form = TimeForm(in);
+  int32_t time;
+  VELKORD_TRY(TimeReadForm(in, form, dataType, time));
+  return TimeWriteNode(time, form, out);
+}
+
+int32_t Fill(RevokedCertificate& record, DerElements& elements) {
+  DerElement element;
+  VELKORD_TRY(elements.Next(element));
+  VELKORD_TRY(DerCopyElement(element.whole, &record.certificateSerialNumber));
+  VELKORD_TRY(elements.Next(element));
+  VELKORD_TRY(RewriteDate(element.whole, element.tag, &record.revocationDate));
+  if (elements.AtEnd()) return VELKORD_OK;
+  VELKORD_TRY(NextSequence(elements, record.crlEntryExtensions));
+  record.hasCrlEntryExtensions = 1;
+  return VELKORD_OK;
+}
+
+}  // namespace
+
+int32_t ASN1_CRL_CreateRevokedCertificate(RevokedCertificate** out) { return CreateRecord(out); }
+
+void ASN1_CRL_FreeRevokedCertificate(RevokedCertificate* record) {
+  FreeRecord<&RevokedCertificate::certificateSerialNumber, &RevokedCertificate::revocationDate,
+             &RevokedCertificate::crlEntryExtensions>(record);
+}
+
+int32_t ASN1_CRL_SetRevokedCertificateCertificateSerialNumber(RevokedCertificate* record,
+                                                              const Anybuf* value) {
+  return SetElement(record, &RevokedCertificate::certificateSerialNumber, value);
+}
+
+int32_t ASN1_CRL_SetRevokedCertificateRevocationDate(RevokedCertificate* record,
+                                                     const Anybuf* value) {
+  return SetField(record, &RevokedCertificate::revocationDate, value,
+                  [](const Anybuf& node, Anybuf** out) {
+                    return RewriteDate(NodeBytes(node), node.dataType, out);
+                  });
+}
+
+int32_t ASN1_CRL_SetRevokedCertificateCrlEntryExtensions(RevokedCertificate* record,
+                                                         const Anybuf* value) {
+  VELKORD_TRY(SetSequence(record, &RevokedCertificate::crlEntryExtensions, value));
+  record->hasCrlEntryExtensions = 1;
+  return VELKORD_OK;
+}
+
+int32_t ASN1_CRL_RevokedCertificateWriteData(const RevokedCertificate* record, Anybuf** out) {
+  if (record == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
+  return JoinFields({record->certificateSerialNumber, record->revocationDate,
+                     OptionalField(record->hasCrlEntryExtensions, record->crlEntryExtensions)},
+                    out);
+}
+
+int32_t ASN1_CRL_RevokedCertificateDecode(const uint8_t* bytes, uint32_t length,
+                                          RevokedCertificate** out) {
+  return DecodeRecord<ASN1_CRL_FreeRevokedCertificate>(bytes, length, out, Fill);
+}

@@ -1,0 +1,127 @@
+// The signed part of a revocation list: made field by field, written and decoded.
+#include "der/integer.h"
+#include "der/tagging.h"
+#include "der/time.h"
+#include "x509/record.h"
+
+using namespace velkord;
+
+namespace {
+
+// The one version number that is written, as an INTEGER of the same value.
+constexpr uint32_t kWrittenVersion = 2;
+constexpr uint32_t kUtcTimeForm = 1;
+constexpr uint32_t kExtensionsTag = 0;
+
+int32_t SetOptional(TbsCertList* record, Anybuf* TbsCertList::*field, uint32_t TbsCertList::*flag,
+                    const Anybuf* value) {
+  VELKORD_TRY(SetSequence(record, field, value));
+  record->*flag = 1;
+  return VELKORD_OK;
+}
+
+// Optional elements are told by their first octets alone, in a fixed order; the last takes whatever
+// is left.
+int32_t FillOptionals(TbsCertList& record, DerElements& elements) {
+  DerElement element;
+  if (elements.StartsWith(kUtcTime) || elements.StartsWith(kGeneralizedTime)) {
+    VELKORD_TRY(elements.Next(element));
+    VELKORD_TRY(TimeRead(element.whole, record.nextUpdate));
+    record.hasNextUpdate = 1;
+  }
+  if (elements.StartsWith(kSequence)) {
+    VELKORD_TRY(NextSequence(elements, record.revokedCertificates));
+    record.hasRevokedCertificates = 1;
+  }
+  if (elements.AtEnd()) return VELKORD_OK;
+  VELKORD_TRY(elements.Next(element));
+  VELKORD_TRY(DerCopyContent(element, &record.crlExtensions));
+  record.hasCrlExtensions = 1;
+  return VELKORD_OK;
+}
+
+int32_t Fill(TbsCertList& record, DerElements& elements) {
+  DerElement element;
+  if (elements.StartsWith(kInteger)) {
+    VELKORD_TRY(elements.Next(element));
+    record.version = DerBytesToUint(element.content);
+  }
+  VELKORD_TRY(NextSequence(elements, record.signature));
+  VELKORD_TRY(NextSequence(elements, record.issuer));
+  VELKORD_TRY(elements.Next(element));
+  const uint8_t form = TimeForm(element.whole);
+  VELKORD_TRY(TimeReadForm(element.whole, form, element.tag, record.thisUpdate));
+  record.timeForm = form == kUtcTime ? kUtcTimeForm : 0;
+  return FillOptionals(record, elements);
+}
+
+}  // namespace
+
+int32_t ASN1_CRL_CreateTbsCertList(TbsCertList** out) { return CreateRecord(out); }
+
+void ASN1_CRL_FreeTbsCertList(TbsCertList* record) {
+  FreeRecord<&TbsCertList::signature, &TbsCertList::issuer, &TbsCertList::revokedCertificates,
+             &TbsCertList::crlExtensions>(record);
+}
+
+int32_t ASN1_CRL_TbsCertListSetVersion(TbsCertList* record, uint32_t version) {
+  if (record == nullptr) return VELKORD_NULL_ARGUMENT;
+  record->version = version;
+  return VELKORD_OK;
+}
+
+int32_t ASN1_CRL_TbsCertListSetSignatureAlgorithmIdentifier(TbsCertList* record,
+                                                            const Anybuf* value) {
+  return SetSequence(record, &TbsCertList::signature, value);
+}
+
+int32_t ASN1_CRL_TbsCertListSetIssuer(TbsCertList* record, const Anybuf* value) {
+  return SetSequence(record, &TbsCertList::issuer, value);
+}
+
+int32_t ASN1_CRL_TbsCertListSetThisUpdate(TbsCertList* record, int32_t time, uint32_t form) {
+  if (record == nullptr) return VELKORD_NULL_ARGUMENT;
+  record->thisUpdate = time;
+  record->timeForm = form;
+  return VELKORD_OK;
+}
+
+int32_t ASN1_CRL_TbsCertListSetNextUpdate(TbsCertList* record, int32_t time) {
+  if (record == nullptr) return VELKORD_NULL_ARGUMENT;
+  record->nextUpdate = time;
+  record->hasNextUpdate = 1;
+  return VELKORD_OK;
+}
+
+int32_t ASN1_CRL_TbsCertListSetRevokedCertificates(TbsCertList* record, const Anybuf* value) {
+  return SetOptional(record, &TbsCertList::revokedCertificates,
+                     &TbsCertList::hasRevokedCertificates, value);
+}
+
+int32_t ASN1_CRL_TbsCertListSetCrlExtensions(TbsCertList* record, const Anybuf* value) {
+  return SetOptional(record, &TbsCertList::crlExtensions, &TbsCertList::hasCrlExtensions, value);
+}
+
+int32_t ASN1_CRL_TbsCertListWriteData(const TbsCertList* record, Anybuf** out) {
+  if (record == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
+  // A missing field that stands before the times is reported before they are.
+  if (record->signature == nullptr || record->issuer == nullptr) return VELKORD_NULL_ARGUMENT;
+  const uint8_t form = record->timeForm == kUtcTimeForm ? kUtcTime : kGeneralizedTime;
+  TimeElement thisUpdate;
+  TimeElement nextUpdate;
+  VELKORD_TRY(thisUpdate.Set(record->thisUpdate, form));
+  if (record->hasNextUpdate == 1) VELKORD_TRY(nextUpdate.Set(record->nextUpdate, form));
+
+  const IntegerElement version(kWrittenVersion);
+  const Field extensions = OptionalField(record->hasCrlExtensions, record->crlExtensions);
+  const DerHeader explicitTag(ExplicitTag(kExtensionsTag), extensions.bytes.size());
+  return JoinFields({record->version == kWrittenVersion ? version.Whole() : Bytes(),
+                     record->signature, record->issuer, thisUpdate.Whole(), nextUpdate.Whole(),
+                     OptionalField(record->hasRevokedCertificates, record->revokedCertificates),
+                     record->hasCrlExtensions == 1 ? explicitTag.View() : Bytes(), extensions},
+                    out);
+}
+
+int32_t ASN1_CRL_TbsCertListDecode(const uint8_t* bytes, uint32_t length, TbsCertList** out) {
+  return DecodeRecord<ASN1_CRL_FreeTbsCertList>(bytes, length, out, Fill);
+}

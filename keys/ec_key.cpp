@@ -1,0 +1,315 @@
+// Keys of elliptic curves of 256 bits between a record and DER.
+#include "der/node.h"
+
+using namespace velkord;
+
+namespace {
+
+constexpr uint32_t kBits = 256;
+constexpr size_t kCoordinateSize = sizeof(EccPubkey::x);
+
+// All of a public key's DER but the coordinates: the curve is always the same.
+constexpr uint8_t kPublicKeyStart[] = {
+    // SubjectPublicKeyInfo.
+    0x30,
+    0x82,
+    0x01,
+    0x34,
+    // AlgorithmIdentifier.
+    0x30,
+    0x81,
+    0xED,
+    // 1.2.840.10045.1.1.
+    0x06,
+    0x07,
+    0x2A,
+    0x86,
+    0x48,
+    0xCE,
+    0x3D,
+    0x01,
+    0x01,
+    // The curve's parameters, version 1.
+    0x30,
+    0x81,
+    0xE1,
+    0x02,
+    0x01,
+    0x01,
+    // The field: 1.2.156.197.1.301 and its prime.
+    0x30,
+    0x2D,
+    0x06,
+    0x08,
+    0x2A,
+    0x81,
+    0x1C,
+    0x81,
+    0x45,
+    0x01,
+    0x82,
+    0x2D,
+    0x02,
+    0x21,
+    0x00,
+    0x85,
+    0x42,
+    0xD6,
+    0x9E,
+    0x4C,
+    0x04,
+    0x4F,
+    0x18,
+    0xE8,
+    0xB9,
+    0x24,
+    0x35,
+    0xBF,
+    0x6F,
+    0xF7,
+    0xDE,
+    0x45,
+    0x72,
+    0x83,
+    0x91,
+    0x5C,
+    0x45,
+    0x51,
+    0x7D,
+    0x72,
+    0x2E,
+    0xDB,
+    0x8B,
+    0x08,
+    0xF1,
+    0xDF,
+    0xC3,
+    // The curve: a and b.
+    0x30,
+    0x44,
+    0x04,
+    0x20,
+    0x78,
+    0x79,
+    0x68,
+    0xB4,
+    0xFA,
+    0x32,
+    0xC3,
+    0xFD,
+    0x24,
+    0x17,
+    0x84,
+    0x2E,
+    0x73,
+    0xBB,
+    0xFE,
+    0xFF,
+    0x2F,
+    0x3C,
+    0x84,
+    0x8B,
+    0x68,
+    0x31,
+    0xD7,
+    0xE0,
+    0xEC,
+    0x65,
+    0x22,
+    0x8B,
+    0x39,
+    0x37,
+    0xE4,
+    0x98,
+    0x04,
+    0x20,
+    0x63,
+    0xE4,
+    0xC6,
+    0xD3,
+    0xB2,
+    0x3B,
+    0x0C,
+    0x84,
+    0x9C,
+    0xF8,
+    0x42,
+    0x41,
+    0x48,
+    0x4B,
+    0xFE,
+    0x48,
+    0xF6,
+    0x1D,
+    0x59,
+    0xA5,
+    0xB1,
+    0x6B,
+    0xA0,
+    0x6E,
+    0x6E,
+    0x12,
+    0xD1,
+    0xDA,
+    0x27,
+    0xC5,
+    0x24,
+    0x9A,
+    // The base point.
+    0x04,
+    0x41,
+    0x04,
+    0x42,
+    0x1D,
+    0xEB,
+    0xD6,
+    0x1B,
+    0x62,
+    0xEA,
+    0xB6,
+    0x74,
+    0x64,
+    0x34,
+    0xEB,
+    0xC3,
+    0xCC,
+    0x31,
+    0x5E,
+    0x32,
+    0x22,
+    0x0B,
+    0x3B,
+    0xAD,
+    0xD5,
+    0x0B,
+    0xDC,
+    0x4C,
+    0x4E,
+    0x6C,
+    0x14,
+    0x7F,
+    0xED,
+    0xD4,
+    0x3D,
+    0x06,
+    0x80,
+    0x51,
+    0x2B,
+    0xCB,
+    0xB4,
+    0x2C,
+    0x07,
+    0xD4,
+    0x73,
+    0x49,
+    0xD2,
+    0x15,
+    0x3B,
+    0x70,
+    0xC4,
+    0xE5,
+    0xD7,
+    0xFD,
+    0xFC,
+    0xBF,
+    0xA3,
+    0x6E,
+    0xA1,
+    0xA8,
+    0x58,
+    0x41,
+    0xB9,
+    0xE4,
+    0x6E,
+    0x09,
+    0xA2,
+    // Its order and cofactor.
+    0x02,
+    0x21,
+    0x00,
+    0x85,
+    0x42,
+    0xD6,
+    0x9E,
+    0x4C,
+    0x04,
+    0x4F,
+    0x18,
+    0xE8,
+    0xB9,
+    0x24,
+    0x35,
+    0xBF,
+    0x6F,
+    0xF7,
+    0xDD,
+    0x29,
+    0x77,
+    0x20,
+    0x63,
+    0x04,
+    0x85,
+    0x62,
+    0x8D,
+    0x5A,
+    0xE7,
+    0x4E,
+    0xE7,
+    0xC3,
+    0x2E,
+    0x79,
+    0xB7,
+    0x02,
+    0x01,
+    0x01,
+    // The public point, without its coordinates.
+    0x03,
+    0x42,
+    0x00,
+    0x04,
+};
+
+// Gives the content of element number `place`, the first being 0, of a SEQUENCE.
+int32_t OpenElement(Bytes in, uint32_t place, Bytes& content) {
+  DerElements elements;
+  VELKORD_TRY(elements.Open(in, kSequenceType));
+  for (; place != 0; --place) {
+    DerElement passedOver;
+    VELKORD_TRY(elements.Next(passedOver));
+  }
+  return DerNextContent(elements, content);
+}
+
+}  // namespace
+
+int32_t ASN1_EccPubkey2Der(const EccPubkey* key, uint8_t* der, uint32_t* derLen) {
+  if (key == nullptr || der == nullptr || derLen == nullptr) return VELKORD_FAILURE;
+  const uint8_t* end = Put(Put(Put(der, kPublicKeyStart), key->x), key->y);
+  *derLen = static_cast<uint32_t>(end - der);
+  return VELKORD_OK;
+}
+
+int32_t ASN1_Der2EccPubkey(const uint8_t* der, uint32_t derLen, EccPubkey* key) {
+  Bytes point;
+  if (der == nullptr || key == nullptr || OpenElement(Bytes(der, derLen), 1, point) != VELKORD_OK ||
+      point.size() < 1 + 2 * kCoordinateSize) {
+    return VELKORD_FAILURE;
+  }
+  key->bits = kBits;
+  CopyOut(point.subspan(1, kCoordinateSize), key->x);
+  CopyOut(point.subspan(1 + kCoordinateSize, kCoordinateSize), key->y);
+  return VELKORD_OK;
+}
+
+int32_t ASN1_Der2EccPrikey(const uint8_t* der, uint32_t derLen, EccPrikey* key) {
+  Bytes privateKey;
+  Bytes value;
+  if (der == nullptr || key == nullptr ||
+      OpenElement(Bytes(der, derLen), 2, privateKey) != VELKORD_OK ||
+      OpenElement(privateKey, 1, value) != VELKORD_OK || value.size() > sizeof key->d) {
+    return VELKORD_FAILURE;
+  }
+  key->bits = kBits;
+  CopyOut(value, key->d);
+  return VELKORD_OK;
+}

@@ -1,0 +1,18 @@
+// A SEQUENCE of positive INTEGERs in a caller's buffer. Private values go straight from the
+// caller's bytes to the caller's buffer, so that no block of the library's own ever holds one.
+#ifndef VELKORD_KEYS_INTEGER_SEQUENCE_H_
+#define VELKORD_KEYS_INTEGER_SEQUENCE_H_
+
+#include <span>
+
+#include "der/node.h"
+
+namespace velkord {
+
+// Writes the SEQUENCE to `out`, which may be null, and its size to `outLength`. 0, or -1 when the
+// size does not fit 32 bits.
+int32_t WriteIntegerSequence(std::span<const Bytes> magnitudes, uint8_t* out, uint32_t* outLength);
+
+}  // namespace velkord
+
+#endif  // VELKORD_KEYS_INTEGER_SEQUENCE_H_

@@ -1,0 +1,103 @@
+// RSA keys between the fixed fields of a record and DER.
+#include <algorithm>
+#include <array>
+
+#include "keys/integer_sequence.h"
+
+using namespace velkord;
+
+namespace {
+
+constexpr uint8_t kPrivateKeyVersion[] = {0};
+
+// Size of the content of an AlgorithmIdentifier for RSA, by which alone a PrivateKeyInfo is told.
+constexpr size_t kAlgorithmSize = 13;
+
+// The significant bytes of a field.
+Bytes KeyFieldTrim(Bytes field) {
+  const auto first =
+      std::find_if(field.begin(), field.end(), [](uint8_t byte) { return byte != 0; });
+  return {first, field.end()};
+}
+
+// Puts a number at the start of its field. 0, or -1 when it is too long.
+int32_t FillField(Bytes number, std::span<uint8_t> field) {
+  if (number.size() > field.size()) return VELKORD_FAILURE;
+  Put(field.data(), number);
+  return VELKORD_OK;
+}
+
+// Fills fields, one from each next element.
+int32_t FillFields(DerElements& elements, std::initializer_list<std::span<uint8_t>> fields) {
+  for (const std::span<uint8_t> field : fields) {
+    Bytes number;
+    VELKORD_TRY(DerNextContent(elements, number));
+    VELKORD_TRY(FillField(number, field));
+  }
+  return VELKORD_OK;
+}
+
+// Clears a record and opens the DER that it is to be filled from.
+template <typename Key>
+int32_t Open(Key* key, const uint8_t* der, int32_t derLen, DerElements& elements) {
+  if (key == nullptr || der == nullptr || derLen <= 0) return VELKORD_FAILURE;
+  *key = Key{};
+  return elements.Open(Bytes(der, static_cast<size_t>(derLen)), kSequenceType);
+}
+
+// Gives the content behind the version.
+int32_t OpenSecond(DerElements& elements, Bytes& content) {
+  DerElement version;
+  VELKORD_TRY(elements.Next(version));
+  return DerNextContent(elements, content);
+}
+
+// Gives the modulus of a private key; `elements` moves to what stands behind it, inside the OCTET
+// STRING of a PrivateKeyInfo.
+int32_t OpenModulus(DerElements& elements, Bytes& modulus) {
+  VELKORD_TRY(OpenSecond(elements, modulus));
+  if (modulus.size() != kAlgorithmSize) return VELKORD_OK;
+  Bytes privateKey;
+  VELKORD_TRY(DerNextContent(elements, privateKey));
+  VELKORD_TRY(elements.Open(privateKey, kSequenceType));
+  return OpenSecond(elements, modulus);
+}
+
+}  // namespace
+
+int32_t ZantEncodePublicKey(const ZantPublicKey* key, uint8_t* der, uint32_t* derLen) {
+  if (key == nullptr || derLen == nullptr) return VELKORD_FAILURE;
+  const std::array numbers = {KeyFieldTrim(key->modulus), KeyFieldTrim(key->publicExponent)};
+  if (numbers[0].empty() || numbers[1].empty()) return VELKORD_FAILURE;
+  return WriteIntegerSequence(numbers, der, derLen);
+}
+
+int32_t ZantDecodePublicKey(ZantPublicKey* key, const uint8_t* der, int32_t derLen) {
+  DerElements elements;
+  VELKORD_TRY(Open(key, der, derLen, elements));
+  return FillFields(elements, {key->modulus, key->publicExponent});
+}
+
+int32_t ZantEncodePrivateKey(const ZantPrivateKey* key, uint8_t* der, uint32_t* derLen) {
+  if (key == nullptr || derLen == nullptr) return VELKORD_FAILURE;
+  const std::array numbers = {Bytes(kPrivateKeyVersion),         KeyFieldTrim(key->modulus),
+                              KeyFieldTrim(key->publicExponent), KeyFieldTrim(key->privateExponent),
+                              KeyFieldTrim(key->prime1),         KeyFieldTrim(key->prime2),
+                              KeyFieldTrim(key->exponent1),      KeyFieldTrim(key->exponent2),
+                              KeyFieldTrim(key->coefficient)};
+  if (numbers[1].empty() || numbers[2].empty() || numbers[3].empty()) return VELKORD_FAILURE;
+  // A key without the numbers behind them is no failure, but there is nothing to write of it.
+  const bool complete =
+      std::none_of(numbers.begin(), numbers.end(), [](Bytes number) { return number.empty(); });
+  return complete ? WriteIntegerSequence(numbers, der, derLen) : VELKORD_OK;
+}
+
+int32_t ZantDecodePrivateKey(ZantPrivateKey* key, const uint8_t* der, int32_t derLen) {
+  DerElements elements;
+  Bytes modulus;
+  VELKORD_TRY(Open(key, der, derLen, elements));
+  VELKORD_TRY(OpenModulus(elements, modulus));
+  VELKORD_TRY(FillField(modulus, key->modulus));
+  return FillFields(elements, {key->publicExponent, key->privateExponent, key->prime1, key->prime2,
+                               key->exponent1, key->exponent2, key->coefficient});
+}

@@ -1,0 +1,106 @@
+// SM2 signatures, private values and public points. These functions report nothing: what cannot be
+// done leaves every out argument alone.
+#include "keys/integer_sequence.h"
+
+using namespace velkord;
+
+namespace {
+
+constexpr uint8_t kUncompressed[] = {4};
+// Form byte, X and Y.
+constexpr size_t kMaximumPoint = 256;
+
+void WriteElement(const DerHeader& header, std::initializer_list<Bytes> parts, uint8_t* der,
+                  uint32_t* derLen) {
+  if (header.Total() > UINT32_MAX) return;
+  uint8_t* place = Put(der, header.View());
+  for (const Bytes part : parts) place = Put(place, part);
+  *derLen = static_cast<uint32_t>(header.Total());
+}
+
+int32_t OpenSignature(const uint8_t* der, uint32_t derLen, Bytes& r, Bytes& s) {
+  Bytes in;
+  VELKORD_TRY(CallerBytes(der, derLen, in));
+  DerElements elements;
+  VELKORD_TRY(elements.Open(in, kSequenceType));
+  VELKORD_TRY(DerNextContent(elements, r));
+  return DerNextContent(elements, s);
+}
+
+int32_t OpenValue(const uint8_t* der, uint32_t derLen, Bytes& content) {
+  Bytes in;
+  VELKORD_TRY(CallerBytes(der, derLen, in));
+  DerElement element;
+  VELKORD_TRY(DerParseElement(in, element));
+  return DerOpenContent(element, content);
+}
+
+}  // namespace
+
+int32_t ASN1_SM2_SM2SignatureEncode(const uint8_t* r, uint32_t rLen, const uint8_t* s,
+                                    uint32_t sLen, uint8_t* der, uint32_t* derLen) {
+  Bytes numbers[2];
+  if (der != nullptr && derLen != nullptr && CallerBytes(r, rLen, numbers[0]) == VELKORD_OK &&
+      CallerBytes(s, sLen, numbers[1]) == VELKORD_OK) {
+    WriteIntegerSequence(numbers, der, derLen);
+  }
+  return VELKORD_OK;
+}
+
+int32_t ASN1_SM2_SM2SignatureDecode(uint8_t* r, uint32_t* rLen, uint8_t* s, uint32_t* sLen,
+                                    const uint8_t* der, uint32_t derLen) {
+  Bytes first;
+  Bytes second;
+  if (r != nullptr && rLen != nullptr && s != nullptr && sLen != nullptr &&
+      OpenSignature(der, derLen, first, second) == VELKORD_OK) {
+    *rLen = CopyOut(first, r);
+    *sLen = CopyOut(second, s);
+  }
+  return VELKORD_OK;
+}
+
+int32_t ASN1_SM2_PrikeyEncode(const uint8_t* value, uint32_t valueLen, uint8_t* der,
+                              uint32_t* derLen) {
+  Bytes number;
+  if (der != nullptr && derLen != nullptr && CallerBytes(value, valueLen, number) == VELKORD_OK) {
+    WriteElement(DerHeader::For(kInteger, number), {number}, der, derLen);
+  }
+  return VELKORD_OK;
+}
+
+int32_t ASN1_SM2_PrikeyDecode(uint8_t* value, uint32_t* valueLen, const uint8_t* der,
+                              uint32_t derLen) {
+  Bytes number;
+  if (value != nullptr && valueLen != nullptr && OpenValue(der, derLen, number) == VELKORD_OK) {
+    *valueLen = CopyOut(number, value);
+  }
+  return VELKORD_OK;
+}
+
+int32_t ASN1_SM2_PubkeyEncode(const uint8_t* x, uint32_t xLen, const uint8_t* y, uint32_t yLen,
+                              uint8_t* der, uint32_t* derLen) {
+  const uint64_t size = 1 + uint64_t{xLen} + yLen;
+  Bytes first;
+  Bytes second;
+  if (size <= kMaximumPoint && der != nullptr && derLen != nullptr &&
+      CallerBytes(x, xLen, first) == VELKORD_OK && CallerBytes(y, yLen, second) == VELKORD_OK) {
+    const Bytes last = !second.empty() ? second : !first.empty() ? first : Bytes(kUncompressed);
+    WriteElement(DerHeader::ForBitString(ImpliedUnusedBits(last), size),
+                 {kUncompressed, first, second}, der, derLen);
+  }
+  return VELKORD_OK;
+}
+
+int32_t ASN1_SM2_PubkeyDecode(uint8_t* x, uint32_t* xLen, uint8_t* y, uint32_t* yLen,
+                              const uint8_t* der, uint32_t derLen) {
+  Bytes point;
+  if (x != nullptr && xLen != nullptr && y != nullptr && yLen != nullptr &&
+      OpenValue(der, derLen, point) == VELKORD_OK && !point.empty() &&
+      point.size() <= kMaximumPoint) {
+    // The first byte tells the form and is passed over.
+    const size_t half = (point.size() - 1) / 2;
+    *xLen = CopyOut(point.subspan(1, half), x);
+    *yLen = CopyOut(point.subspan(1 + half, half), y);
+  }
+  return VELKORD_OK;
+}

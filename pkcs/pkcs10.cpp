@@ -1,0 +1,75 @@
+// The signed part of a PKCS#10 certification request.
+#include "der/integer.h"
+#include "der/tagging.h"
+#include "x509/record.h"
+
+using namespace velkord;
+
+namespace {
+
+constexpr uint32_t kAttributesTag = 0;
+
+// The attributes keep the tag number of their element and come back constructed, the order of what
+// they hold left alone.
+int32_t FillAttributes(const DerElement& element, Anybuf*& field) {
+  Bytes content = element.content;
+  if (IsImplicitConstructed(element.tag)) {
+    DerElements attributes;
+    VELKORD_TRY(attributes.OpenContent(content));
+  } else {
+    VELKORD_TRY(DerOpenImplicit(element, content));
+  }
+  return DerBuild(ExplicitTag(element.tag & kTagNumberMask), content, &field);
+}
+
+int32_t Fill(PKCS10& record, DerElements& elements) {
+  DerElement element;
+  VELKORD_TRY(elements.Next(element));
+  VELKORD_TRY(ASN1_WriteInteger(DerBytesToUint(element.content), &record.version));
+  VELKORD_TRY(NextSequence(elements, record.subject));
+  VELKORD_TRY(NextSequence(elements, record.subjectPublicKeyInfo));
+  if (elements.AtEnd()) return VELKORD_OK;
+  VELKORD_TRY(elements.Next(element));
+  return FillAttributes(element, record.attributes);
+}
+
+}  // namespace
+
+int32_t ASN1_CreatePKCS10(PKCS10** out) { return CreateRecord(out); }
+
+void ASN1_FreePKCS10(PKCS10* record) {
+  FreeRecord<&PKCS10::version, &PKCS10::subject, &PKCS10::subjectPublicKeyInfo,
+             &PKCS10::attributes>(record);
+}
+
+int32_t ASN1_PKCS10SetVersion(PKCS10* record, uint32_t version) {
+  if (record == nullptr) return VELKORD_NULL_ARGUMENT;
+  NodePtr node;
+  VELKORD_TRY(ASN1_WriteInteger(version, node.Out()));
+  ReplaceField(record->version, node);
+  return VELKORD_OK;
+}
+
+int32_t ASN1_PKCS10SetSubject(PKCS10* record, const Anybuf* value) {
+  return SetSequence(record, &PKCS10::subject, value);
+}
+
+int32_t ASN1_PKCS10SetSubjectPublicKeyInfo(PKCS10* record, const Anybuf* value) {
+  return SetSequence(record, &PKCS10::subjectPublicKeyInfo, value);
+}
+
+int32_t ASN1_PKCS10SetAttributes(PKCS10* record, const Anybuf* value) {
+  return SetField(record, &PKCS10::attributes, value, [](const Anybuf& node, Anybuf** out) {
+    return ASN1_WriteImplicit(&node, kAttributesTag, out);
+  });
+}
+
+int32_t ASN1_PKCS10WriteData(const PKCS10* record, Anybuf** out) {
+  if (record == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
+  return JoinFields(
+      {record->version, record->subject, record->subjectPublicKeyInfo, record->attributes}, out);
+}
+
+int32_t ASN1_PKCS10Decode(const uint8_t* bytes, uint32_t length, PKCS10** out) {
+  return DecodeRecord<ASN1_FreePKCS10>(bytes, length, out, Fill);
+}

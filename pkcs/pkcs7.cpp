@@ -1,0 +1,47 @@
+// The PKCS#7 ContentInfo. Its `[0]` is part of the content that the setter makes, and comes off in
+// the decoder; the writer writes the field as it stands.
+#include "der/tagging.h"
+#include "x509/record.h"
+
+using namespace velkord;
+
+namespace {
+
+constexpr uint32_t kContentTag = 0;
+
+int32_t Fill(PKCS7Context& record, DerElements& elements) {
+  DerElement element;
+  VELKORD_TRY(elements.Next(element));
+  VELKORD_TRY(DerCopyElement(element.whole, &record.contentType));
+  if (elements.AtEnd()) return VELKORD_OK;
+  VELKORD_TRY(elements.Next(element));
+  return DerCopyContent(element, &record.content);
+}
+
+}  // namespace
+
+int32_t ASN1_PKCS7_CreateContext(PKCS7Context** out) { return CreateRecord(out); }
+
+void ASN1_PKCS7_FreeContext(PKCS7Context* record) {
+  FreeRecord<&PKCS7Context::contentType, &PKCS7Context::content>(record);
+}
+
+int32_t ASN1_PKCS7_SetContentType(PKCS7Context* record, const Anybuf* value) {
+  return SetElement(record, &PKCS7Context::contentType, value);
+}
+
+int32_t ASN1_PKCS7_SetContent(PKCS7Context* record, const Anybuf* value) {
+  return SetField(record, &PKCS7Context::content, value, [](const Anybuf& node, Anybuf** out) {
+    return DerBuild(ExplicitTag(kContentTag), NodeBytes(node), out);
+  });
+}
+
+int32_t ASN1_PKCS7_WriteData(const PKCS7Context* record, Anybuf** out) {
+  if (record == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
+  const uint32_t hasContent = record->content != nullptr ? 1 : 0;
+  return JoinFields({record->contentType, OptionalField(hasContent, record->content)}, out);
+}
+
+int32_t ASN1_PKCS7_Decode(const uint8_t* bytes, uint32_t length, PKCS7Context** out) {
+  return DecodeRecord<ASN1_PKCS7_FreeContext>(bytes, length, out, Fill);
+}
