@@ -242,7 +242,7 @@ const Callers kCallers = {
 }  // namespace
 
 std::string Call(const std::string& function, const Arguments& arguments) {
-  for (const Callers* callers : {&kCallers, &kCertificateCallers}) {
+  for (const Callers* callers : {&kCallers, &kCertificateCallers, &kRecordCallers, &kKeyCallers}) {
     const auto caller = callers->find(function);
     if (caller != callers->end()) return caller->second(arguments);
   }

@@ -1,4 +1,4 @@
-// Calls of the decoders and of certificate inspection.
+// Calls of certificate inspection, and of the decoder of what it looks into.
 #include "calls.h"
 #include "sample.h"
 
@@ -22,20 +22,6 @@ std::string DecodeTbs(const Arguments& in) {
     text += " ; " + Describe(node);
   }
   ASN1_FreeTBSCertificate(record);
-  return text;
-}
-
-std::string DecodeCertificate(const Arguments& in) {
-  const ByteVector der = FromHex(in[0]);
-  Certificate untouched{};
-  Certificate* record = &untouched;
-  const int32_t code = ASN1_CertificateDecode(der.data(), Size(der), &record);
-  EXPECT_EQ(code != 0, record == &untouched);
-  if (code != 0) return std::to_string(code);
-  const std::string text = Describe(record->tbsCertificate) + " ; " +
-                           Describe(record->signatureAlgorithm) + " ; " +
-                           Describe(record->signatureValue);
-  ASN1_FreeCertificate(record);
   return text;
 }
 
@@ -92,7 +78,8 @@ std::string LookUpItem(const Arguments& in) {
 }  // namespace
 
 const Callers kCertificateCallers = {
-    {"ASN1_TBSCertificateDecode", DecodeTbs},  {"ASN1_CertificateDecode", DecodeCertificate},
-    {"X509CertGetSubject", ListSubject},       {"X509CertGetOIDValue", LookUp},
+    {"ASN1_TBSCertificateDecode", DecodeTbs},
+    {"X509CertGetSubject", ListSubject},
+    {"X509CertGetOIDValue", LookUp},
     {"X509CertGetOIDValue-items", LookUpItem},
 };

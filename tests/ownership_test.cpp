@@ -1,0 +1,45 @@
+// Who owns what: nodes read in place, chains taken apart, and what an inspection record holds.
+#include <cstdlib>
+
+#include "sample.h"
+
+namespace {
+
+TEST(Nodes, MayBeReadInPlaceAndKeepTheirNeighbours) {
+  const NodePtr text = ToNode("04 05 \"ABCDE\"");
+  uint32_t size = 0;
+  EXPECT_EQ(ASN1_ReadOctetStringToBytes(text.get(), text->data, &size), 0);
+  EXPECT_EQ(ToHex(text->data, size), "41 42 43 44 45");
+
+  Anybuf* oid = ToNode("06 01 2A | 30 00").release();
+  const NodePtr parameter(oid->next);
+  EXPECT_EQ(Made([&](Anybuf** out) {
+              return ASN1_SetAlgorithmIdentifier(0, oid, nullptr, parameter.get(), out);
+            }),
+            "16: 30 05 06 01 2A 30 00");
+  EXPECT_EQ(ToHex(parameter->data, parameter->dataLen), "30 00");
+  // A size beyond 32 bits is refused before a byte is read.
+  uint8_t byte = 0;
+  const Anybuf huge = {&byte, 0xFFFFFFFF, 0, 2, 4, nullptr, nullptr};
+  EXPECT_EQ(Made([&](Anybuf** out) { return ASN1_WriteSequence(&huge, out); }), "-1");
+}
+
+TEST(Inspection, RecordOwnsWhatItsFieldsHold) {
+  X509Cert* record = nullptr;
+  EXPECT_EQ(X509CertCreate(&record), record);
+  for (uint8_t** block :
+       {&record->block1, &record->block2, &record->block3, &record->block4, &record->block5}) {
+    *block = static_cast<uint8_t*>(std::malloc(1));
+  }
+  record->entriesA = static_cast<CertEntry*>(std::calloc(1, sizeof(CertEntry)));
+  record->entriesA->next = static_cast<CertEntry*>(std::calloc(1, sizeof(CertEntry)));
+  record->entriesA->next->oid = static_cast<uint8_t*>(std::malloc(1));
+  record->entriesB = static_cast<CertWideEntry*>(std::calloc(1, sizeof(CertWideEntry)));
+  record->entriesB->block3 = static_cast<uint8_t*>(std::malloc(1));
+  record->entriesB->next = static_cast<CertWideEntry*>(std::calloc(1, sizeof(CertWideEntry)));
+  record->entriesB->next->block1 = static_cast<uint8_t*>(std::malloc(1));
+  X509CertFree(record);
+  X509CertFree(nullptr);
+}
+
+}  // namespace
