@@ -1,5 +1,7 @@
 // Allocations counted and made to fail. The C allocator is replaced here for the whole program.
+#include <algorithm>
 #include <cstdlib>
+#include <ctime>
 
 #include "sample.h"
 
@@ -56,46 +58,74 @@ int32_t Watched(int n, Call call) {
   return code;
 }
 
-TEST(Allocation, DecodesAllocateWhatTheyHandOut) {
-  const NodePtr tbs = Sequence(SampleElements() + " 81 03 00 AB CD 82 01 00 A3 10 " + kExtensions);
-  const NodePtr whole = Sequence(Hex(tbs) + " " + kAlgorithm + " 03 03 00 11 22");
-  Certificate* certificate = nullptr;
-  TBSCertificate* record = nullptr;
-  EXPECT_EQ(Watched(0,
-                    [&] {
-                      const int32_t code =
-                          ASN1_CertificateDecode(whole->data, whole->dataLen, &certificate);
-                      if (code != 0) return code;
-                      return ASN1_TBSCertificateDecode(certificate->tbsCertificate, &record);
-                    }),
-            0);
-  // A record of 3 nodes and one of 10, each node with its bytes.
-  EXPECT_EQ(requests, 1 + 2 * 3 + 1 + 2 * 10);
-  EXPECT_EQ(inUse, requests);
-  ASN1_FreeCertificate(certificate);
-  ASN1_FreeTBSCertificate(record);
-}
+using Codes = std::vector<int32_t>;
 
-// Fails each request of a call in turn: the code, and nothing that stays in use. `first` is the
-// code of the first request, which makes the record, and `rest` that of the others.
+// Fails each request of a call in turn: its code, and nothing that stays in use. The call makes no
+// more requests than there are codes, and hands out every block.
 template <typename Call>
-void Sweep(int32_t first, int32_t rest, Call call) {
-  int n = 1;
-  for (int32_t code; (code = Watched(n, call)) != 0; ++n) {
-    EXPECT_EQ(code, n == 1 ? first : rest) << n;
+void Sweep(const Codes& codes, Call call) {
+  int n = 0;
+  for (const int32_t expected : codes) {
+    EXPECT_EQ(Watched(++n, call), expected) << n;
     EXPECT_EQ(inUse, 0) << n;
   }
-  EXPECT_EQ(inUse, requests);
+  EXPECT_EQ(Watched(0, call), 0);
+  EXPECT_EQ(requests, n);
+  EXPECT_EQ(inUse, n);
+}
+
+// The same for a decoder: one request for the record, two for each of `nodes` nodes.
+template <typename Record>
+void SweepDecoder(int32_t (*decode)(const uint8_t*, uint32_t, Record**), void (*release)(Record*),
+                  const std::string& der, size_t nodes) {
+  const ByteVector bytes = FromHex(der);
+  Codes codes(1 + 2 * nodes, -1);
+  codes[0] = -7000;
+  Record* record = nullptr;
+  Sweep(codes, [&] { return decode(bytes.data(), Size(bytes), &record); });
+  release(record);
+}
+
+TEST(Allocation, DecodersMakeWhatTheyHandOutOrNothing) {
+  // The C library allocates for a zone when it first reads it.
+  setenv("TZ", "UTC0", 1);
+  tzset();
+  const std::string whole = "30 81 00 30 00 03 01 00 05 00";
+  SweepDecoder(ASN1_CertificateDecode, ASN1_FreeCertificate, "30 0A " + whole, 3);
+  SweepDecoder(ASN1_CRL_CertificateListDecode, ASN1_CRL_FreeCertificateList, "30 0A " + whole, 3);
+  SweepDecoder(ASN1_CRL_TbsCertListDecode, ASN1_CRL_FreeTbsCertList,
+               "30 1A 02 01 02 30 00 30 00 17 0D \"150101120000Z\" 30 00 A0 00", 4);
+  SweepDecoder(ASN1_PKCS10Decode, ASN1_FreePKCS10, "30 09 02 01 00 30 00 30 00 A0 00", 4);
+  SweepDecoder(ASN1_PKCS6_CertificateInfoDecode, ASN1_PKCS6_FreeExtendedCertificateInfo,
+               "30 07 02 01 00 30 00 31 00", 2);
+  SweepDecoder(ASN1_PKCS7_Decode, ASN1_PKCS7_FreeContext, "30 05 06 01 2A A0 00", 2);
+
+  const NodePtr tbs = Sequence(SampleElements() + " 81 01 00 82 01 00 A3 10 " + kExtensions);
+  Codes codes(21, -1);
+  codes[0] = -7000;
+  TBSCertificate* record = nullptr;
+  Sweep(codes, [&] { return ASN1_TBSCertificateDecode(tbs.get(), &record); });
+  // A setter that fails leaves the field as it was.
+  const std::string issuer = Describe(record->issuer);
+  EXPECT_EQ(Watched(1, [&] { return ASN1_TBSCertificateSetIssuer(record, tbs.get()); }), -1);
+  EXPECT_EQ(Describe(record->issuer), issuer);
+  ASN1_FreeTBSCertificate(record);
+
+  // The date of an entry is formatted, which has a code of its own.
+  const ByteVector entry = FromHex("30 13 02 00 17 0D \"150101120000Z\" 30 00");
+  RevokedCertificate* revoked = nullptr;
+  Sweep({-7000, -1, -1, -7000, -7000, -1, -1},
+        [&] { return ASN1_CRL_RevokedCertificateDecode(entry.data(), Size(entry), &revoked); });
+  ASN1_CRL_FreeRevokedCertificate(revoked);
 }
 
 TEST(Allocation, FailureGivesItsCodeAndLeavesNothing) {
   const NodePtr extension = ToNode("30 0C 06 03 55 1D 13 01 01 FF 04 02 30 00");
-  const NodePtr tbs = Sequence(SampleElements() + " 81 01 00 82 01 00 A3 10 " + kExtensions);
-  const NodePtr whole = Sequence(Hex(tbs) + " " + kAlgorithm + " 03 03 00 11 22");
   Anybuf* out[3] = {};
-  Sweep(-1, -1, [&] { return ASN1_GetExtension(extension.get(), &out[0], &out[1], &out[2]); });
+  Sweep({-1, -1, -1, -1, -1, -1},
+        [&] { return ASN1_GetExtension(extension.get(), &out[0], &out[1], &out[2]); });
   for (Anybuf* node : out) ASN1_FreeAnybuf(node);
-  Sweep(-1, -1, [&] { return ASN1_ReadSequence(tbs.get(), &out[0]); });
+  Sweep({-1, -1, -1, -1, -1, -1}, [&] { return ASN1_ReadSequence(extension.get(), &out[0]); });
   ASN1_FreeAnybuf(out[0]);
 
   // The OID node stays the caller's when its use fails.
@@ -110,24 +140,36 @@ TEST(Allocation, FailureGivesItsCodeAndLeavesNothing) {
     EXPECT_EQ(inUse, 0);
   }
   AttributeTypeAndValue* pair = nullptr;
-  Sweep(-7000, -7000,
+  Sweep({-7000, -7000, -7000, -7000, -7000},
         [&] { return ASN1_SetAttributeTypeAndValue(extension.get(), extension.get(), &pair); });
   ASN1_FreeAttributeTypeAndValue(pair);
   ObjectID* objectId = nullptr;
-  Sweep(-7000, -7000, [&] { return ASN1_ReadObjectId(extension.get(), &objectId); });
+  Sweep({-7000, -7000}, [&] { return ASN1_ReadObjectId(extension.get(), &objectId); });
   ASN1_FreeObjectID(objectId);
-  Certificate* certificate = nullptr;
-  Sweep(-7000, -1,
-        [&] { return ASN1_CertificateDecode(whole->data, whole->dataLen, &certificate); });
-  ASN1_FreeCertificate(certificate);
-  TBSCertificate* record = nullptr;
-  Sweep(-7000, -1, [&] { return ASN1_TBSCertificateDecode(tbs.get(), &record); });
+}
 
-  // A setter that fails leaves the field as it was.
-  const std::string issuer = Describe(record->issuer);
-  EXPECT_EQ(Watched(1, [&] { return ASN1_TBSCertificateSetIssuer(record, tbs.get()); }), -1);
-  EXPECT_EQ(Describe(record->issuer), issuer);
-  ASN1_FreeTBSCertificate(record);
+// No block of the library's own ever holds a private value, so that none is left behind.
+TEST(Allocation, KeysGoFromBufferToBuffer) {
+  const ByteVector value(32, 0x80);
+  ZantPrivateKey rsa;
+  std::fill_n(reinterpret_cast<uint8_t*>(&rsa), sizeof rsa, uint8_t{0x80});
+  const ByteVector ec = FromHex("30 2B 02 00 30 00 04 25 30 23 02 00 04 1F 80*31");
+  EccPrikey key{};
+  uint8_t der[1450];
+  uint8_t out[32];
+  uint32_t size = 0;
+  EXPECT_EQ(Watched(0,
+                    [&] {
+                      int32_t code = ZantEncodePrivateKey(&rsa, der, &size);
+                      code += ZantDecodePrivateKey(&rsa, der, static_cast<int32_t>(size));
+                      code += ASN1_Der2EccPrikey(ec.data(), Size(ec), &key);
+                      code += ASN1_SM2_PrikeyEncode(value.data(), 32, der, &size);
+                      return code + ASN1_SM2_PrikeyDecode(out, &size, der, size);
+                    }),
+            0);
+  EXPECT_EQ(requests, 0);
+  EXPECT_EQ(ToHex(out, 32), ToHex(value.data(), 32));
+  EXPECT_EQ(rsa.coefficient[127], 0x80);
 }
 
 }  // namespace
