@@ -21,11 +21,11 @@ std::vector<std::string> Split(const std::string& text, const std::string& separ
   return parts;
 }
 
-// A result with its counts and quoted texts written out in hexadecimal.
+// A result with its counts, quoted texts and samples written out in hexadecimal.
 std::string Expand(const std::string& result) {
   std::string text;
   for (const std::string& word : Split(result, " ")) {
-    const bool isShort = word.find_first_of("*\"") != std::string::npos;
+    const bool isShort = word.find_first_of("*\"@") != std::string::npos;
     const ByteVector bytes = isShort ? FromHex(word) : ByteVector();
     text += (isShort ? ToHex(bytes.data(), bytes.size()) : word) + ' ';
   }

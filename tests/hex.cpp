@@ -1,6 +1,26 @@
 #include "hex.h"
 
+#include <fstream>
+#include <iterator>
 #include <sstream>
+
+namespace {
+
+ByteVector Sample(const std::string& place) {
+  const size_t colon = place.find(':');
+  const std::string path = std::string(VELKORD_DATA "/") + place.substr(0, colon);
+  std::ifstream file(path, std::ios::binary);
+  EXPECT_TRUE(file.is_open()) << path;
+  const std::string content{std::istreambuf_iterator<char>(file), {}};
+  if (colon == std::string::npos) return {content.begin(), content.end()};
+  const size_t offset = std::stoul(place.substr(colon + 1));
+  const size_t size = std::stoul(place.substr(place.rfind(':') + 1));
+  EXPECT_LE(offset + size, content.size()) << place;
+  const std::string part = content.substr(offset, size);
+  return {part.begin(), part.end()};
+}
+
+}  // namespace
 
 ByteVector FromHex(const std::string& hex) {
   ByteVector bytes;
@@ -8,6 +28,11 @@ ByteVector FromHex(const std::string& hex) {
   for (std::string octet; octets >> octet;) {
     if (octet[0] == '"') {
       bytes.insert(bytes.end(), octet.begin() + 1, octet.end() - 1);
+      continue;
+    }
+    if (octet[0] == '@') {
+      const ByteVector sample = Sample(octet.substr(1));
+      bytes.insert(bytes.end(), sample.begin(), sample.end());
       continue;
     }
     const size_t count = octet.size() > 3 ? std::stoul(octet.substr(3)) : 1;

@@ -24,8 +24,9 @@ using NodePtr = std::unique_ptr<Anybuf, FreeWith<ASN1_FreeAnybuf>>;
 using TbsPtr = std::unique_ptr<TBSCertificate, FreeWith<ASN1_FreeTBSCertificate>>;
 using CertificatePtr = std::unique_ptr<Certificate, FreeWith<ASN1_FreeCertificate>>;
 
-// Hexadecimal octets with blanks between them, "05 00", to bytes and back. `FF*200` is 200 octets
-// and `"CN"` the octets of a text without blanks.
+// Hexadecimal octets with blanks between them, "05 00", to bytes and back. `FF*200` is 200 octets,
+// `"CN"` the octets of a text without blanks, and `@name:4:20` 20 bytes of a sample file from the
+// fourth on, or the whole file without the numbers.
 ByteVector FromHex(const std::string& hex);
 std::string ToHex(const uint8_t* bytes, size_t size);
 
