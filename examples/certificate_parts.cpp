@@ -2,7 +2,9 @@
 
 #include <string>
 
+#include "node_bytes.h"
 #include "result_codes.h"
+#include "signed_whole.h"
 
 namespace {
 
@@ -31,15 +33,6 @@ uint32_t ReadVersion(const TBSCertificate& tbs) {
   Check(ASN1_ReadExplicit(tbs.versionNode, Out(number), &tag), "open the version");
   Check(ASN1_ReadInteger(number.get(), &version), "read the version");
   return version;
-}
-
-std::vector<uint8_t> ReadSerialNumber(const TBSCertificate& tbs) {
-  std::vector<uint8_t> bytes(tbs.serialNumber->dataLen);
-  uint32_t length = 0;
-  Check(ASN1_ReadIntegerArrayToBytes(tbs.serialNumber, bytes.data(), &length),
-        "read the serial number");
-  bytes.resize(length);
-  return bytes;
 }
 
 NodePtr RebuildTbs(const CertificateParts& parts) {
@@ -81,7 +74,7 @@ CertificateParts ReadCertificateParts(Bytes der) {
         "decode the certificate");
   TbsPtr tbs = DecodeTbs(*parts.certificate->tbsCertificate);
   parts.version = ReadVersion(*tbs);
-  parts.serialNumber = ReadSerialNumber(*tbs);
+  parts.serialNumber = NodeContent(*tbs->serialNumber, "read the serial number");
 
   parts.view.reset(X509CertCreate(nullptr));
   if (parts.view == nullptr) Fail("create the view", VELKORD_OUT_OF_MEMORY);
@@ -91,18 +84,8 @@ CertificateParts ReadCertificateParts(Bytes der) {
 }
 
 NodePtr RebuildCertificate(const CertificateParts& parts) {
-  const NodePtr tbs = RebuildTbs(parts);
-  CertificatePtr certificate;
-  Check(ASN1_CreateCertificate(Out(certificate)), "create the certificate");
-  Check(ASN1_CertificateSetTbsCertificate(certificate.get(), tbs.get()), "set the signed part");
-  Check(ASN1_CertificateSetSignatureAlgorithm(certificate.get(),
-                                              parts.certificate->signatureAlgorithm),
-        "set the certificate's signature algorithm");
-  Check(ASN1_CertificateSetSignatureValue(certificate.get(), parts.certificate->signatureValue),
-        "set the signature");
-  NodePtr written;
-  Check(ASN1_CertificateWriteData(certificate.get(), Out(written)), "write the certificate");
-  return written;
+  return WriteSigned(kCertificateWhole, *RebuildTbs(parts), *parts.certificate->signatureAlgorithm,
+                     *parts.certificate->signatureValue);
 }
 
 NodePtr ReadExtensionList(const TBSCertificate& tbs) {

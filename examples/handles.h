@@ -21,6 +21,13 @@ using ObjectIdPtr = std::unique_ptr<ObjectID, FreeWith<ASN1_FreeObjectID>>;
 using TbsPtr = std::unique_ptr<TBSCertificate, FreeWith<ASN1_FreeTBSCertificate>>;
 using CertificatePtr = std::unique_ptr<Certificate, FreeWith<ASN1_FreeCertificate>>;
 using X509CertPtr = std::unique_ptr<X509Cert, FreeWith<X509CertFree>>;
+using RevokedCertificatePtr =
+    std::unique_ptr<RevokedCertificate, FreeWith<ASN1_CRL_FreeRevokedCertificate>>;
+using TbsCertListPtr = std::unique_ptr<TbsCertList, FreeWith<ASN1_CRL_FreeTbsCertList>>;
+using CertificateListPtr = std::unique_ptr<CertificateList, FreeWith<ASN1_CRL_FreeCertificateList>>;
+using Pkcs10Ptr = std::unique_ptr<PKCS10, FreeWith<ASN1_FreePKCS10>>;
+using Pkcs10RequestPtr = std::unique_ptr<PKCS10Request, FreeWith<ASN1_FreePKCS10Request>>;
+using Pkcs7Ptr = std::unique_ptr<PKCS7Context, FreeWith<ASN1_PKCS7_FreeContext>>;
 
 // Stands for a handle in the call of a function with an out pointer. The handle has the object once
 // the whole statement of the call has ended.

@@ -16,14 +16,14 @@ constexpr KnownObjectId kKnownObjectIds[] = {
     {"0.9.2342.19200300.100.1.1", "userId"},
     {"0.9.2342.19200300.100.1.25", "domainComponent"},
     {"1.2.840.113549.1.9.1", "emailAddress"},
-    {"2.5.4.3", "commonName"},
+    {kCommonNameId, "commonName"},
     {"2.5.4.4", "surname"},
     {"2.5.4.5", "serialNumber"},
-    {"2.5.4.6", "countryName"},
+    {kCountryNameId, "countryName"},
     {"2.5.4.7", "localityName"},
     {"2.5.4.8", "stateOrProvinceName"},
     {"2.5.4.9", "streetAddress"},
-    {"2.5.4.10", "organizationName"},
+    {kOrganizationNameId, "organizationName"},
     {"2.5.4.11", "organizationalUnitName"},
     {"2.5.4.12", "title"},
     {"2.5.4.15", "businessCategory"},
@@ -32,10 +32,16 @@ constexpr KnownObjectId kKnownObjectIds[] = {
     {"2.5.4.97", "organizationIdentifier"},
     // Keys.
     {"1.2.840.10040.4.1", "dsa"},
-    {"1.2.840.10045.2.1", "ecPublicKey"},
-    {"1.2.840.113549.1.1.1", "rsaEncryption"},
+    {kEcPublicKeyId, "ecPublicKey"},
+    {kRsaEncryptionId, "rsaEncryption"},
     {"1.3.101.112", "Ed25519"},
     {"1.3.101.113", "Ed448"},
+    // Curves.
+    {kSm2Id, "sm2"},
+    {kPrime256v1Id, "prime256v1"},
+    {"1.3.132.0.34", "secp384r1"},
+    {"1.3.132.0.35", "secp521r1"},
+    {kSecp256k1Id, "secp256k1"},
     // Signatures.
     {"1.2.156.10197.1.501", "sm2-with-sm3"},
     {"1.2.840.10040.4.3", "dsa-with-sha1"},
@@ -46,9 +52,23 @@ constexpr KnownObjectId kKnownObjectIds[] = {
     {"1.2.840.113549.1.1.4", "md5WithRSAEncryption"},
     {"1.2.840.113549.1.1.5", "sha1WithRSAEncryption"},
     {"1.2.840.113549.1.1.10", "rsassaPss"},
-    {"1.2.840.113549.1.1.11", "sha256WithRSAEncryption"},
+    {kSha256WithRsaEncryptionId, "sha256WithRSAEncryption"},
     {"1.2.840.113549.1.1.12", "sha384WithRSAEncryption"},
     {"1.2.840.113549.1.1.13", "sha512WithRSAEncryption"},
+    // Contents of PKCS#7.
+    {"1.2.156.10197.6.1.4.2.1", "sm2-data"},
+    {"1.2.156.10197.6.1.4.2.2", "sm2-signedData"},
+    {"1.2.156.10197.6.1.4.2.3", "sm2-envelopedData"},
+    {"1.2.840.113549.1.7.1", "data"},
+    {"1.2.840.113549.1.7.2", "signedData"},
+    {"1.2.840.113549.1.7.3", "envelopedData"},
+    {"1.2.840.113549.1.7.4", "signedAndEnvelopedData"},
+    {"1.2.840.113549.1.7.5", "digestedData"},
+    {"1.2.840.113549.1.7.6", "encryptedData"},
+    // Attributes of requests.
+    {"1.2.840.113549.1.9.2", "unstructuredName"},
+    {"1.2.840.113549.1.9.7", "challengePassword"},
+    {kExtensionRequestId, "extensionRequest"},
     // Extensions.
     {"1.3.6.1.4.1.11129.2.4.2", "signedCertificateTimestampList"},
     {"1.3.6.1.5.5.7.1.1", "authorityInfoAccess"},
@@ -56,24 +76,31 @@ constexpr KnownObjectId kKnownObjectIds[] = {
     {"2.16.840.1.113730.1.1", "netscapeCertType"},
     {"2.16.840.1.113730.1.13", "netscapeComment"},
     {"2.5.29.9", "subjectDirectoryAttributes"},
-    {"2.5.29.14", "subjectKeyIdentifier"},
-    {"2.5.29.15", "keyUsage"},
+    {kSubjectKeyIdentifierId, "subjectKeyIdentifier"},
+    {kKeyUsageId, "keyUsage"},
     {"2.5.29.16", "privateKeyUsagePeriod"},
-    {"2.5.29.17", "subjectAltName"},
+    {kSubjectAltNameId, "subjectAltName"},
     {"2.5.29.18", "issuerAltName"},
-    {"2.5.29.19", "basicConstraints"},
+    {kBasicConstraintsId, "basicConstraints"},
+    {kCrlNumberId, "cRLNumber"},
+    {kReasonCodeId, "reasonCode"},
+    {"2.5.29.24", "invalidityDate"},
+    {"2.5.29.27", "deltaCRLIndicator"},
+    {"2.5.29.28", "issuingDistributionPoint"},
+    {"2.5.29.29", "certificateIssuer"},
     {"2.5.29.30", "nameConstraints"},
     {"2.5.29.31", "cRLDistributionPoints"},
     {"2.5.29.32", "certificatePolicies"},
     {"2.5.29.33", "policyMappings"},
-    {"2.5.29.35", "authorityKeyIdentifier"},
+    {kAuthorityKeyIdentifierId, "authorityKeyIdentifier"},
     {"2.5.29.36", "policyConstraints"},
     {"2.5.29.37", "extKeyUsage"},
     {"2.5.29.46", "freshestCRL"},
     {"2.5.29.54", "inhibitAnyPolicy"},
 };
 
-// Empty when the octets are no identifier or an arc needs more than 64 bits.
+}  // namespace
+
 std::string DottedText(Bytes octets) {
   std::string text;
   uint64_t arc = 0;
@@ -94,8 +121,6 @@ std::string DottedText(Bytes octets) {
   }
   return arcContinues ? std::string() : text;
 }
-
-}  // namespace
 
 std::string ObjectIdText(Bytes octets) {
   std::string text = DottedText(octets);

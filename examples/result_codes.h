@@ -48,4 +48,12 @@ inline uint32_t Length32(size_t size) {
   return static_cast<uint32_t>(size);
 }
 
+// Some functions count in signed numbers.
+inline int32_t SignedLength(size_t size) {
+  if (size > size_t{std::numeric_limits<int32_t>::max()}) {
+    throw std::runtime_error("more bytes than a signed 32-bit length counts");
+  }
+  return static_cast<int32_t>(size);
+}
+
 #endif  // VELKORD_EXAMPLES_RESULT_CODES_H_

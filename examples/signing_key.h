@@ -1,17 +1,12 @@
-// What the issuer needs of libcrypto: an RSA key, random bytes and a digest. Every failure throws
-// std::runtime_error naming the step.
+// The RSA key of libcrypto's with which the issuers sign. Every failure throws std::runtime_error
+// naming the step.
 #ifndef VELKORD_EXAMPLES_SIGNING_KEY_H_
 #define VELKORD_EXAMPLES_SIGNING_KEY_H_
 
-#include <openssl/evp.h>
-
-#include <array>
 #include <cstdint>
-#include <memory>
-#include <span>
 #include <vector>
 
-#include "handles.h"
+#include "libcrypto.h"
 #include "readable_text.h"
 
 // An RSA key of 2048 bits with the exponent 65537.
@@ -29,11 +24,7 @@ class SigningKey {
  private:
   std::vector<uint8_t> Number(const char* parameter) const;
 
-  std::unique_ptr<EVP_PKEY, FreeWith<EVP_PKEY_free>> key_;
+  KeyPtr key_;
 };
-
-void FillWithRandom(std::span<uint8_t> bytes);
-
-std::array<uint8_t, 32> Sha256(Bytes message);
 
 #endif  // VELKORD_EXAMPLES_SIGNING_KEY_H_

@@ -1,0 +1,32 @@
+// What the main functions of the examples share.
+#ifndef VELKORD_EXAMPLES_COMMAND_LINE_H_
+#define VELKORD_EXAMPLES_COMMAND_LINE_H_
+
+#include <exception>
+#include <iostream>
+#include <span>
+#include <string_view>
+
+// Runs `work` with the arguments and returns the exit status: that of the work, 1 when it throws, 2
+// when there are fewer than `least` arguments or more than `most`.
+template <typename Work>
+int RunCommand(int argc, char** argv, std::string_view usage, size_t least, size_t most,
+               Work work) {
+  const std::span<char*> arguments = std::span(argv, static_cast<size_t>(argc)).subspan(1);
+  if (arguments.size() == 1 && std::string_view(arguments.front()) == "--help") {
+    std::cout << usage;
+    return 0;
+  }
+  if (arguments.size() < least || arguments.size() > most) {
+    std::cerr << usage;
+    return 2;
+  }
+  try {
+    return work(arguments);
+  } catch (const std::exception& error) {
+    std::cerr << argv[0] << ": " << error.what() << '\n';
+    return 1;
+  }
+}
+
+#endif  // VELKORD_EXAMPLES_COMMAND_LINE_H_

@@ -1,0 +1,18 @@
+#include "signature_text.h"
+
+#include <vector>
+
+#include "result_codes.h"
+
+std::string SignatureText(Bytes der) {
+  // The decoder reports nothing: a length that stays 0 tells that there was no signature to read.
+  uint32_t rLength = 0;
+  uint32_t sLength = 0;
+  std::vector<uint8_t> r(der.size());
+  std::vector<uint8_t> s(der.size());
+  ASN1_SM2_SM2SignatureDecode(r.data(), &rLength, s.data(), &sLength, der.data(),
+                              Length32(der.size()));
+  if (rLength == 0 || sLength == 0) Fail("read the signature", VELKORD_FAILURE);
+  return "  r: " + HexText(Bytes(r).first(rLength)) + "\n  s: " + HexText(Bytes(s).first(sLength)) +
+         '\n';
+}

@@ -1,0 +1,114 @@
+#include "structure_text.h"
+
+#include <vector>
+
+#include "handles.h"
+#include "node_bytes.h"
+#include "object_ids.h"
+#include "result_codes.h"
+
+namespace {
+
+// Reduced tags.
+constexpr uint32_t kObjectIdTag = 6;
+constexpr uint32_t kUtcTimeTag = 23;
+constexpr uint32_t kGeneralizedTimeTag = 24;
+constexpr uint32_t kBmpStringTag = 30;
+
+std::vector<uint8_t> NodeText(const Anybuf& node, const char* step) {
+  if (node.dataType != kBmpStringTag) return NodeContent(node, step);
+  std::vector<uint8_t> text(node.dataLen);
+  uint32_t length = 0;
+  Check(ASN1_ReadBmpStringToBytes(&node, text.data(), &length), step);
+  text.resize(length);
+  return text;
+}
+
+void PutAttribute(std::ostream& out, const Anybuf& attribute) {
+  NodePtr parts;
+  Check(ASN1_ReadSequence(&attribute, Out(parts)), "split an attribute of a name");
+  if (parts == nullptr || parts->next == nullptr) {
+    Fail("split an attribute of a name", VELKORD_FAILURE);
+  }
+  out << "    " << NodeObjectId(*parts, "read the type of an attribute of a name") << ": "
+      << EscapedText(NodeText(*parts->next, "read an attribute of a name")) << '\n';
+}
+
+void PutExtension(std::ostream& out, const Anybuf& extension, std::string_view indent) {
+  NodePtr id;
+  NodePtr critical;
+  NodePtr value;
+  Check(ASN1_GetExtension(&extension, Out(id), Out(critical), Out(value)), "open an extension");
+  uint8_t isCritical = 0;
+  if (critical != nullptr) {
+    Check(ASN1_ReadBoolean(critical.get(), &isCritical), "read an extension's critical flag");
+  }
+  NodePtr content;
+  Check(ASN1_ReadOctetString(value.get(), Out(content)), "read an extension's value");
+  out << indent << NodeObjectId(*id, "read an extension's type")
+      << (isCritical != 0 ? ", critical, " : ", ") << content->dataLen << " bytes\n";
+}
+
+}  // namespace
+
+std::string NodeObjectId(const Anybuf& node, const char* step) {
+  if (node.dataType != kObjectIdTag) Fail(step, VELKORD_WRONG_TAG);
+  ObjectIdPtr id;
+  Check(ASN1_ReadObjectId(&node, Out(id)), step);
+  return ObjectIdText(Bytes(id->data, id->dataLen));
+}
+
+// Read from the text itself: the library's own reader gives local time and ends in 2038.
+std::string TimeText(const Anybuf* node, const char* step) {
+  if (node == nullptr) Fail(step, VELKORD_FAILURE);
+  const bool isUtcTime = node->dataType == kUtcTimeTag;
+  if (!isUtcTime && node->dataType != kGeneralizedTimeTag) Fail(step, VELKORD_WRONG_TAG);
+
+  const std::vector<uint8_t> content = NodeContent(*node, step);
+  std::string text(content.begin(), content.end());
+  const size_t digits = isUtcTime ? 12 : 14;
+  if (text.size() != digits + 1 || text.back() != 'Z' ||
+      text.find_first_not_of("0123456789") != digits) {
+    Fail(step, VELKORD_BAD_TIME);
+  }
+  // Two-digit years run from 1950 to 2049.
+  if (isUtcTime) text.insert(0, text[0] < '5' ? "20" : "19");
+  return text.substr(0, 4) + '-' + text.substr(4, 2) + '-' + text.substr(6, 2) + ' ' +
+         text.substr(8, 2) + ':' + text.substr(10, 2) + ':' + text.substr(12, 2) + " UTC";
+}
+
+std::string AlgorithmText(const Anybuf& algorithm, const char* step) {
+  NodePtr id;
+  Check(ASN1_GetAlgorithmIdentifier(&algorithm, Out(id), nullptr, nullptr), step);
+  return NodeObjectId(*id, step);
+}
+
+std::string KeyAlgorithmText(const Anybuf& keyInfo) {
+  NodePtr algorithm;
+  NodePtr key;
+  Check(ASN1_GetSubjectPublicKeyInfo(&keyInfo, Out(algorithm), Out(key)), "open the public key");
+  return AlgorithmText(*algorithm, "read the key algorithm");
+}
+
+void PutName(std::ostream& out, const Anybuf& name) {
+  NodePtr relativeNames;
+  Check(ASN1_ReadDerName(&name, Out(relativeNames)), "split a name");
+  for (const Anybuf* relative = relativeNames.get(); relative != nullptr;
+       relative = relative->next) {
+    NodePtr attributes;
+    Check(ASN1_ReadRelativeDistinguishedName(relative, Out(attributes)), "split a relative name");
+    for (const Anybuf* attribute = attributes.get(); attribute != nullptr;
+         attribute = attribute->next) {
+      PutAttribute(out, *attribute);
+    }
+  }
+}
+
+void PutExtensions(std::ostream& out, const Anybuf& list, std::string_view indent) {
+  NodePtr extensions;
+  Check(ASN1_ReadExtensions(&list, Out(extensions)), "split the extensions");
+  for (const Anybuf* extension = extensions.get(); extension != nullptr;
+       extension = extension->next) {
+    PutExtension(out, *extension, indent);
+  }
+}
