@@ -8,9 +8,9 @@ namespace {
 
 // A date is read and written again in the form that it has.
 int32_t RewriteDate(Bytes in, uint32_t dataType, Anybuf** out) {
-  const uint8_t form = TimeForm(in);
+  uint8_t form;
   int32_t time;
-  VELKORD_TRY(TimeReadForm(in, form, dataType, time));
+  VELKORD_TRY(TimeReadByFirstOctet(in, dataType, form, time));
   return TimeWriteNode(time, form, out);
 }
 
@@ -37,7 +37,7 @@ void ASN1_CRL_FreeRevokedCertificate(RevokedCertificate* record) {
 
 int32_t ASN1_CRL_SetRevokedCertificateCertificateSerialNumber(RevokedCertificate* record,
                                                               const Anybuf* value) {
-  return SetElement(record, &RevokedCertificate::certificateSerialNumber, value);
+  return SetField(record, &RevokedCertificate::certificateSerialNumber, value, CopyElement);
 }
 
 int32_t ASN1_CRL_SetRevokedCertificateRevocationDate(RevokedCertificate* record,
@@ -50,9 +50,8 @@ int32_t ASN1_CRL_SetRevokedCertificateRevocationDate(RevokedCertificate* record,
 
 int32_t ASN1_CRL_SetRevokedCertificateCrlEntryExtensions(RevokedCertificate* record,
                                                          const Anybuf* value) {
-  VELKORD_TRY(SetSequence(record, &RevokedCertificate::crlEntryExtensions, value));
-  record->hasCrlEntryExtensions = 1;
-  return VELKORD_OK;
+  return SetOptional(record, &RevokedCertificate::crlEntryExtensions,
+                     &RevokedCertificate::hasCrlEntryExtensions, value, CopySequence);
 }
 
 int32_t ASN1_CRL_RevokedCertificateWriteData(const RevokedCertificate* record, Anybuf** out) {

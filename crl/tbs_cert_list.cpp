@@ -13,13 +13,6 @@ constexpr uint32_t kWrittenVersion = 2;
 constexpr uint32_t kUtcTimeForm = 1;
 constexpr uint32_t kExtensionsTag = 0;
 
-int32_t SetOptional(TbsCertList* record, Anybuf* TbsCertList::*field, uint32_t TbsCertList::*flag,
-                    const Anybuf* value) {
-  VELKORD_TRY(SetSequence(record, field, value));
-  record->*flag = 1;
-  return VELKORD_OK;
-}
-
 // Optional elements are told by their first octets alone, in a fixed order; the last takes whatever
 // is left.
 int32_t FillOptionals(TbsCertList& record, DerElements& elements) {
@@ -49,8 +42,8 @@ int32_t Fill(TbsCertList& record, DerElements& elements) {
   VELKORD_TRY(NextSequence(elements, record.signature));
   VELKORD_TRY(NextSequence(elements, record.issuer));
   VELKORD_TRY(elements.Next(element));
-  const uint8_t form = TimeForm(element.whole);
-  VELKORD_TRY(TimeReadForm(element.whole, form, element.tag, record.thisUpdate));
+  uint8_t form;
+  VELKORD_TRY(TimeReadByFirstOctet(element.whole, element.tag, form, record.thisUpdate));
   record.timeForm = form == kUtcTime ? kUtcTimeForm : 0;
   return FillOptionals(record, elements);
 }
@@ -95,11 +88,12 @@ int32_t ASN1_CRL_TbsCertListSetNextUpdate(TbsCertList* record, int32_t time) {
 
 int32_t ASN1_CRL_TbsCertListSetRevokedCertificates(TbsCertList* record, const Anybuf* value) {
   return SetOptional(record, &TbsCertList::revokedCertificates,
-                     &TbsCertList::hasRevokedCertificates, value);
+                     &TbsCertList::hasRevokedCertificates, value, CopySequence);
 }
 
 int32_t ASN1_CRL_TbsCertListSetCrlExtensions(TbsCertList* record, const Anybuf* value) {
-  return SetOptional(record, &TbsCertList::crlExtensions, &TbsCertList::hasCrlExtensions, value);
+  return SetOptional(record, &TbsCertList::crlExtensions, &TbsCertList::hasCrlExtensions, value,
+                     CopySequence);
 }
 
 int32_t ASN1_CRL_TbsCertListWriteData(const TbsCertList* record, Anybuf** out) {

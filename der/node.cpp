@@ -20,7 +20,8 @@ uint8_t* PutHeader(uint8_t* place, uint8_t tag, uint32_t length) {
   return place;
 }
 
-// The content of an element without the zero octet that keeps an INTEGER positive.
+// The content of an element without its unused-bits octet, if that is to be dropped, and without
+// the zero octet that keeps an INTEGER positive.
 int32_t OpenElement(const DerElement& element, bool dropUnusedBitsOctet, Bytes& content) {
   Bytes bytes = element.content;
   if (dropUnusedBitsOctet) {
@@ -188,9 +189,10 @@ int32_t DerOpenContent(const DerElement& child, Bytes& content) {
   return OpenElement(child, child.tag == kBitString, content);
 }
 
-int32_t DerNextContent(DerElements& children, Bytes& content) {
+int32_t DerNextContent(DerElements& children, Bytes& content, uint32_t passedOver) {
   DerElement child;
   VELKORD_TRY(children.Next(child));
+  for (; passedOver != 0; --passedOver) VELKORD_TRY(children.Next(child));
   return DerOpenContent(child, content);
 }
 

@@ -131,14 +131,17 @@ struct DerContent {
 // told by the node's `dataType`, the second by the tag in the bytes.
 // 0; -1 or -2 from the header; -2 for a BIT STRING without its octet.
 int32_t DerOpenContent(const Anybuf& source, DerContent& content);
-// The same for an element that was split from its parent.
-int32_t DerOpenContent(const DerElement& child, Bytes& content);
-// The same for the next child of an opened element; -1 when there is none.
-int32_t DerNextContent(DerElements& children, Bytes& content);
-// A content node of such an element's content and tag.
-int32_t DerCopyContent(const DerElement& child, Anybuf** out);
 // The same, a BIT STRING's octet left in place.
 int32_t DerOpenRaw(const Anybuf& source, Bytes& content);
+
+// The content of an element that was split from its parent, without the octet in front; both kinds
+// are told by its tag. 0, or -2 for a BIT STRING without its octet.
+int32_t DerOpenContent(const DerElement& child, Bytes& content);
+// A content node of it. 0, -1 or -2.
+int32_t DerCopyContent(const DerElement& child, Anybuf** out);
+// The same content of the next child of an opened element, `passedOver` children left out before
+// it. 0, -1 when there is none, or -2.
+int32_t DerNextContent(DerElements& children, Bytes& content, uint32_t passedOver = 0);
 
 }  // namespace velkord
 

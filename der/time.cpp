@@ -87,6 +87,11 @@ int32_t TimeReadForm(Bytes in, uint8_t form, uint32_t dataType, int32_t& time) {
   return TimeRead(in, time);
 }
 
+int32_t TimeReadByFirstOctet(Bytes in, uint32_t dataType, uint8_t& form, int32_t& time) {
+  form = !in.empty() && in[0] == kUtcTime ? kUtcTime : kGeneralizedTime;
+  return TimeReadForm(in, form, dataType, time);
+}
+
 }  // namespace velkord
 
 using namespace velkord;

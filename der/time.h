@@ -20,11 +20,6 @@ class TimeElement {
   size_t size_ = 0;
 };
 
-// The form that the first octet of an element selects: UTCTime by its tag, else GeneralizedTime.
-inline uint8_t TimeForm(Bytes in) {
-  return !in.empty() && in[0] == kUtcTime ? kUtcTime : kGeneralizedTime;
-}
-
 // Makes a time TLV node in the form of `tag`, UTCTime or GeneralizedTime.
 // 0, -4 for a negative time, or -7000.
 int32_t TimeWriteNode(int32_t time, uint8_t tag, Anybuf** out);
@@ -36,6 +31,9 @@ int32_t TimeRead(Bytes in, int32_t& time);
 
 // The same of an element whose `dataType` must be that of `form` in its low byte; -7 otherwise.
 int32_t TimeReadForm(Bytes in, uint8_t form, uint32_t dataType, int32_t& time);
+
+// The same of the form that the first octet selects: UTCTime by its tag, else GeneralizedTime.
+int32_t TimeReadByFirstOctet(Bytes in, uint32_t dataType, uint8_t& form, int32_t& time);
 
 }  // namespace velkord
 

@@ -42,14 +42,10 @@ constexpr auto kPublicKeyStart = Octets(
 );
 
 // Gives the content of element number `place`, the first being 0, of a SEQUENCE.
-int32_t OpenElement(Bytes in, uint32_t place, Bytes& content) {
+int32_t OpenChild(Bytes in, uint32_t place, Bytes& content) {
   DerElements elements;
   VELKORD_TRY(elements.Open(in, kSequenceType));
-  for (; place != 0; --place) {
-    DerElement passedOver;
-    VELKORD_TRY(elements.Next(passedOver));
-  }
-  return DerNextContent(elements, content);
+  return DerNextContent(elements, content, place);
 }
 
 }  // namespace
@@ -63,7 +59,7 @@ int32_t ASN1_EccPubkey2Der(const EccPubkey* key, uint8_t* der, uint32_t* derLen)
 
 int32_t ASN1_Der2EccPubkey(const uint8_t* der, uint32_t derLen, EccPubkey* key) {
   Bytes point;
-  if (der == nullptr || key == nullptr || OpenElement(Bytes(der, derLen), 1, point) != VELKORD_OK ||
+  if (der == nullptr || key == nullptr || OpenChild(Bytes(der, derLen), 1, point) != VELKORD_OK ||
       point.size() < 1 + 2 * kCoordinateSize) {
     return VELKORD_FAILURE;
   }
@@ -77,8 +73,8 @@ int32_t ASN1_Der2EccPrikey(const uint8_t* der, uint32_t derLen, EccPrikey* key) 
   Bytes privateKey;
   Bytes value;
   if (der == nullptr || key == nullptr ||
-      OpenElement(Bytes(der, derLen), 2, privateKey) != VELKORD_OK ||
-      OpenElement(privateKey, 1, value) != VELKORD_OK || value.size() > sizeof key->d) {
+      OpenChild(Bytes(der, derLen), 2, privateKey) != VELKORD_OK ||
+      OpenChild(privateKey, 1, value) != VELKORD_OK || value.size() > sizeof key->d) {
     return VELKORD_FAILURE;
   }
   key->bits = kBits;

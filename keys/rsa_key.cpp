@@ -39,28 +39,21 @@ int32_t FillFields(DerElements& elements, std::initializer_list<std::span<uint8_
 
 // Clears a record and opens the DER that it is to be filled from.
 template <typename Key>
-int32_t Open(Key* key, const uint8_t* der, int32_t derLen, DerElements& elements) {
+int32_t ClearAndOpen(Key* key, const uint8_t* der, int32_t derLen, DerElements& elements) {
   if (key == nullptr || der == nullptr || derLen <= 0) return VELKORD_FAILURE;
   *key = Key{};
   return elements.Open(Bytes(der, static_cast<size_t>(derLen)), kSequenceType);
 }
 
-// Gives the content behind the version.
-int32_t OpenSecond(DerElements& elements, Bytes& content) {
-  DerElement version;
-  VELKORD_TRY(elements.Next(version));
-  return DerNextContent(elements, content);
-}
-
 // Gives the modulus of a private key; `elements` moves to what stands behind it, inside the OCTET
-// STRING of a PrivateKeyInfo.
+// STRING of a PrivateKeyInfo. A version stands in front in both forms.
 int32_t OpenModulus(DerElements& elements, Bytes& modulus) {
-  VELKORD_TRY(OpenSecond(elements, modulus));
+  VELKORD_TRY(DerNextContent(elements, modulus, 1));
   if (modulus.size() != kAlgorithmSize) return VELKORD_OK;
   Bytes privateKey;
   VELKORD_TRY(DerNextContent(elements, privateKey));
   VELKORD_TRY(elements.Open(privateKey, kSequenceType));
-  return OpenSecond(elements, modulus);
+  return DerNextContent(elements, modulus, 1);
 }
 
 }  // namespace
@@ -74,7 +67,7 @@ int32_t ZantEncodePublicKey(const ZantPublicKey* key, uint8_t* der, uint32_t* de
 
 int32_t ZantDecodePublicKey(ZantPublicKey* key, const uint8_t* der, int32_t derLen) {
   DerElements elements;
-  VELKORD_TRY(Open(key, der, derLen, elements));
+  VELKORD_TRY(ClearAndOpen(key, der, derLen, elements));
   return FillFields(elements, {key->modulus, key->publicExponent});
 }
 
@@ -95,7 +88,7 @@ int32_t ZantEncodePrivateKey(const ZantPrivateKey* key, uint8_t* der, uint32_t* 
 int32_t ZantDecodePrivateKey(ZantPrivateKey* key, const uint8_t* der, int32_t derLen) {
   DerElements elements;
   Bytes modulus;
-  VELKORD_TRY(Open(key, der, derLen, elements));
+  VELKORD_TRY(ClearAndOpen(key, der, derLen, elements));
   VELKORD_TRY(OpenModulus(elements, modulus));
   VELKORD_TRY(FillField(modulus, key->modulus));
   return FillFields(elements, {key->publicExponent, key->privateExponent, key->prime1, key->prime2,

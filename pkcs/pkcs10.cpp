@@ -14,6 +14,7 @@ constexpr uint32_t kAttributesTag = 0;
 int32_t FillAttributes(const DerElement& element, Anybuf*& field) {
   Bytes content = element.content;
   if (IsImplicitConstructed(element.tag)) {
+    // They come back as they stand, and are only checked.
     DerElements attributes;
     VELKORD_TRY(attributes.OpenContent(content));
   } else {
@@ -43,11 +44,8 @@ void ASN1_FreePKCS10(PKCS10* record) {
 }
 
 int32_t ASN1_PKCS10SetVersion(PKCS10* record, uint32_t version) {
-  if (record == nullptr) return VELKORD_NULL_ARGUMENT;
-  NodePtr node;
-  VELKORD_TRY(ASN1_WriteInteger(version, node.Out()));
-  ReplaceField(record->version, node);
-  return VELKORD_OK;
+  return SetField(record, &PKCS10::version,
+                  [version](Anybuf** out) { return ASN1_WriteInteger(version, out); });
 }
 
 int32_t ASN1_PKCS10SetSubject(PKCS10* record, const Anybuf* value) {

@@ -27,7 +27,7 @@ void ASN1_PKCS7_FreeContext(PKCS7Context* record) {
 }
 
 int32_t ASN1_PKCS7_SetContentType(PKCS7Context* record, const Anybuf* value) {
-  return SetElement(record, &PKCS7Context::contentType, value);
+  return SetField(record, &PKCS7Context::contentType, value, CopyElement);
 }
 
 int32_t ASN1_PKCS7_SetContent(PKCS7Context* record, const Anybuf* value) {
@@ -38,8 +38,7 @@ int32_t ASN1_PKCS7_SetContent(PKCS7Context* record, const Anybuf* value) {
 
 int32_t ASN1_PKCS7_WriteData(const PKCS7Context* record, Anybuf** out) {
   if (record == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
-  const uint32_t hasContent = record->content != nullptr ? 1 : 0;
-  return JoinFields({record->contentType, OptionalField(hasContent, record->content)}, out);
+  return JoinFields({record->contentType, FieldIfSet(record->content)}, out);
 }
 
 int32_t ASN1_PKCS7_Decode(const uint8_t* bytes, uint32_t length, PKCS7Context** out) {

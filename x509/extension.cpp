@@ -27,7 +27,7 @@ using namespace velkord;
 int32_t ASN1_SetExtension(const Anybuf* oid, const Anybuf* critical, const Anybuf* value,
                           Anybuf** out) {
   if (out == nullptr) return VELKORD_NULL_ARGUMENT;
-  return JoinFields({oid, OptionalField(critical != nullptr ? 1 : 0, critical), value}, out);
+  return JoinFields({oid, FieldIfSet(critical), value}, out);
 }
 
 int32_t ASN1_GetExtensionOne(int32_t /*id*/, const uint8_t* oid, uint32_t oidLength,

@@ -27,37 +27,46 @@ void FreeRecord(Record* record) {
   Release(record);
 }
 
-// Puts a new node in a field and releases what stood there.
-inline void ReplaceField(Anybuf*& field, NodePtr& node) {
-  Anybuf* earlier = field;
-  field = node.release();
-  ASN1_FreeAnybuf(earlier);
-}
-
-// Sets a field to the node that `make` makes of the value. 0, the code of `make`, or -8.
+// Sets a field to the node that `make` makes, and releases what stood there. 0, the code of `make`,
+// or -8.
 template <typename Record, typename Make>
-int32_t SetField(Record* record, Anybuf* Record::*field, const Anybuf* value, Make make) {
-  if (record == nullptr || value == nullptr) return VELKORD_NULL_ARGUMENT;
-  NodePtr node;
-  VELKORD_TRY(make(*value, node.Out()));
-  ReplaceField(record->*field, node);
+int32_t SetField(Record* record, Anybuf* Record::*field, Make make) {
+  if (record == nullptr) return VELKORD_NULL_ARGUMENT;
+  Anybuf* node;
+  VELKORD_TRY(make(&node));
+  ASN1_FreeAnybuf(record->*field);
+  record->*field = node;
   return VELKORD_OK;
 }
 
-// Sets a field to a finished SEQUENCE, its length rewritten in shortest form. 0, -1, -2, -7 or -8.
-template <typename Record>
-int32_t SetSequence(Record* record, Anybuf* Record::*field, const Anybuf* value) {
-  return SetField(record, field, value, [](const Anybuf& node, Anybuf** out) {
-    return DerRewrap(kSequence, NodeBytes(node), out);
-  });
+// The same with the node that `make` makes of a value.
+template <typename Record, typename Make>
+int32_t SetField(Record* record, Anybuf* Record::*field, const Anybuf* value, Make make) {
+  if (value == nullptr) return VELKORD_NULL_ARGUMENT;
+  return SetField(record, field, [&](Anybuf** out) { return make(*value, out); });
 }
 
-// Sets a field to a copy of an element of any type. 0, -1, -2 or -8.
+// The same for an optional field with its flag.
+template <typename Record, typename Make>
+int32_t SetOptional(Record* record, Anybuf* Record::*field, uint32_t Record::*flag,
+                    const Anybuf* value, Make make) {
+  VELKORD_TRY(SetField(record, field, value, make));
+  record->*flag = 1;
+  return VELKORD_OK;
+}
+
+// What most fields are made of: a copy of an element of any type, and a finished SEQUENCE, its
+// length rewritten in shortest form.
+inline int32_t CopyElement(const Anybuf& value, Anybuf** out) {
+  return DerCopyElement(NodeBytes(value), out);
+}
+inline int32_t CopySequence(const Anybuf& value, Anybuf** out) {
+  return DerRewrap(kSequence, NodeBytes(value), out);
+}
+
 template <typename Record>
-int32_t SetElement(Record* record, Anybuf* Record::*field, const Anybuf* value) {
-  return SetField(record, field, value, [](const Anybuf& node, Anybuf** out) {
-    return DerCopyElement(NodeBytes(node), out);
-  });
+int32_t SetSequence(Record* record, Anybuf* Record::*field, const Anybuf* value) {
+  return SetField(record, field, value, CopySequence);
 }
 
 // An element of a record that is to be written: a field, or bytes, none for an absent element.
@@ -70,6 +79,11 @@ struct Field {
   bool set;
   Bytes bytes;
 };
+
+// A field that is written when it is set.
+inline Field FieldIfSet(const Anybuf* node) {
+  return node != nullptr ? Field(node) : Field(Bytes());
+}
 
 // An optional field, which its flag alone makes present.
 inline Field OptionalField(uint32_t flag, const Anybuf* node) {

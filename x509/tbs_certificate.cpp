@@ -18,11 +18,9 @@ constexpr uint32_t kExtensionsTag = 3;
 
 int32_t SetUniqueId(TBSCertificate* record, FieldPointer field, uint32_t TBSCertificate::*flag,
                     const Anybuf* value, uint32_t tagNumber) {
-  VELKORD_TRY(SetField(record, field, value, [tagNumber](const Anybuf& node, Anybuf** out) {
+  return SetOptional(record, field, flag, value, [tagNumber](const Anybuf& node, Anybuf** out) {
     return ASN1_WriteImplicit(&node, tagNumber, out);
-  }));
-  record->*flag = 1;
-  return VELKORD_OK;
+  });
 }
 
 // An optional element as it is read.
@@ -113,21 +111,18 @@ void ASN1_FreeTBSCertificate(TBSCertificate* record) {
 }
 
 int32_t ASN1_TBSCertificateSetVersion(TBSCertificate* record, uint32_t version) {
-  if (record == nullptr) return VELKORD_NULL_ARGUMENT;
-  NodePtr node;
-  VELKORD_TRY(DerBuild(ExplicitTag(kVersionTag), IntegerElement(version).Whole(), node.Out()));
-  ReplaceField(record->versionNode, node);
+  VELKORD_TRY(SetField(record, &TBSCertificate::versionNode, [version](Anybuf** out) {
+    return DerBuild(ExplicitTag(kVersionTag), IntegerElement(version).Whole(), out);
+  }));
   record->version = version;
   return VELKORD_OK;
 }
 
 int32_t ASN1_TBSCertificateSetSerialNumber(TBSCertificate* record, const uint8_t* bytes,
                                            uint32_t length) {
-  if (record == nullptr) return VELKORD_NULL_ARGUMENT;
-  NodePtr node;
-  VELKORD_TRY(ASN1_WriteIntegerArrayFromBytes(bytes, length, node.Out()));
-  ReplaceField(record->serialNumber, node);
-  return VELKORD_OK;
+  return SetField(record, &TBSCertificate::serialNumber, [=](Anybuf** out) {
+    return ASN1_WriteIntegerArrayFromBytes(bytes, length, out);
+  });
 }
 
 int32_t ASN1_TBSCertificateSetSignatureAlg(TBSCertificate* record, const Anybuf* value) {
@@ -161,11 +156,10 @@ int32_t ASN1_TBSCertificateSetSubjectUniqueID(TBSCertificate* record, const Anyb
 }
 
 int32_t ASN1_TBSCertificateSetExtensions(TBSCertificate* record, const Anybuf* value) {
-  VELKORD_TRY(SetField(
-      record, &TBSCertificate::extensions, value,
-      [](const Anybuf& node, auto out) { return ASN1_WriteExplicit(&node, kExtensionsTag, out); }));
-  record->hasExtensions = 1;
-  return VELKORD_OK;
+  return SetOptional(record, &TBSCertificate::extensions, &TBSCertificate::hasExtensions, value,
+                     [](const Anybuf& node, Anybuf** out) {
+                       return ASN1_WriteExplicit(&node, kExtensionsTag, out);
+                     });
 }
 
 int32_t ASN1_TBSCertificateWriteData(const TBSCertificate* record, Anybuf** out) {
