@@ -18,10 +18,10 @@
 /// `free`, so a caller may build and take apart nodes itself.
 ///
 /// **Results.** A function that returns `int32_t` gives 0 or a negative code below, unless its
-/// comment says otherwise. After a failure no out argument and no record has changed, and nothing
-/// stays allocated. A null pointer where an argument is required gives `VELKORD_NULL_ARGUMENT`;
-/// bytes may be null when their length is 0. A node whose `data` is null counts as holding no
-/// bytes. Lengths count bytes.
+/// comment says otherwise. After a failure no out argument and no record has changed, but for what
+/// the comment of the function tells, and nothing stays allocated. A null pointer where an argument
+/// is required gives `VELKORD_NULL_ARGUMENT`; bytes may be null when their length is 0. A node
+/// whose `data` is null counts as holding no bytes. Lengths count bytes.
 ///
 /// **Buffers.** An out buffer comes without its size: each comment states the room that it needs. A
 /// reader of one content may be given the `data` of its own source; otherwise buffers and inputs do
@@ -52,7 +52,8 @@ extern "C" {
 enum {
   VELKORD_OK = 0,        ///< Success.
   VELKORD_FAILURE = -1,  ///< A length of more than 4 subsequent octets; an element that overruns
-                         ///< its parent or is missing from it; out of memory for a node.
+                         ///< its parent or is missing from it; out of memory for a node;
+                         ///< whatever a function of RSA or EC keys refuses.
   VELKORD_SIZE_MISMATCH = -2,  ///< Tag, length and content do not add up to the bytes given.
   VELKORD_NEGATIVE_TIME = -4,  ///< A time value below 0.
   VELKORD_BAD_TIME = -5,       ///< A time text without its digits or its final "Z".
@@ -154,7 +155,7 @@ typedef struct PKCS10 {
   Anybuf* version;               ///< INTEGER.
   Anybuf* subject;               ///< Name.
   Anybuf* subjectPublicKeyInfo;  ///< SubjectPublicKeyInfo.
-  Anybuf* attributes;            ///< `[0]` IMPLICIT SET.
+  Anybuf* attributes;            ///< `[0]` IMPLICIT SET; null when a decoded one has none.
 } PKCS10;
 
 /// A signed PKCS#10 certification request. Owns its three nodes.
@@ -205,15 +206,15 @@ typedef struct ZantPrivateKey {
 
 /// The public key of an elliptic curve of 256 bits: the coordinates big-endian at full width.
 typedef struct EccPubkey {
-  uint32_t bits;
+  uint32_t bits;  ///< 256 after decoding; encoding does not read it.
   uint8_t x[32];
   uint8_t y[32];
 } EccPubkey;
 
 /// The private key of an elliptic curve of 256 bits.
 typedef struct EccPrikey {
-  uint32_t bits;
-  uint8_t d[32];
+  uint32_t bits;  ///< 256 after decoding.
+  uint8_t d[32];  ///< Big-endian, from the first byte on.
 } EccPrikey;
 
 /// One subject attribute of an inspected certificate.
@@ -738,7 +739,7 @@ VELKORD_API int32_t ASN1_TBSCertificateSetSerialNumber(TBSCertificate* record, c
                                                        uint32_t length);
 
 /// Sets a field to a copy of a SEQUENCE TLV node, its own length rewritten in shortest form.
-/// Returns 0, -1 (an element that overruns, memory), -2, -7 (no SEQUENCE) or -8.
+/// Returns 0, -1 (length octets, an element that overruns, memory), -2, -7 (no SEQUENCE) or -8.
 /// @{
 VELKORD_API int32_t ASN1_TBSCertificateSetSignatureAlg(TBSCertificate* record, const Anybuf* value);
 VELKORD_API int32_t ASN1_TBSCertificateSetIssuer(TBSCertificate* record, const Anybuf* value);
@@ -797,8 +798,8 @@ VELKORD_API void ASN1_PKCS6_FreeExtendedCertificate(ExtendedCertificate* record)
 /// @}
 
 /// Sets the first or the second field to a copy of a SEQUENCE TLV node, its own length rewritten in
-/// shortest form. What the field held before is released. Returns 0, -1 (an element that overruns,
-/// memory), -2, -7 (no SEQUENCE) or -8.
+/// shortest form. What the field held before is released. Returns 0, -1 (length octets, an element
+/// that overruns, memory), -2, -7 (no SEQUENCE) or -8.
 /// @{
 VELKORD_API int32_t ASN1_CertificateSetTbsCertificate(Certificate* record, const Anybuf* value);
 VELKORD_API int32_t ASN1_CertificateSetSignatureAlgorithm(Certificate* record, const Anybuf* value);
@@ -908,7 +909,7 @@ VELKORD_API int32_t ASN1_CRL_SetRevokedCertificateRevocationDate(RevokedCertific
                                                                  const Anybuf* value);
 
 /// Sets the extensions to a copy of a SEQUENCE TLV node, its own length rewritten in shortest form.
-/// Returns 0, -1 (an element that overruns, memory), -2, -7 (no SEQUENCE) or -8.
+/// Returns 0, -1 (length octets, an element that overruns, memory), -2, -7 (no SEQUENCE) or -8.
 VELKORD_API int32_t ASN1_CRL_SetRevokedCertificateCrlEntryExtensions(RevokedCertificate* record,
                                                                      const Anybuf* value);
 
@@ -920,7 +921,8 @@ VELKORD_API int32_t ASN1_CRL_RevokedCertificateWriteData(const RevokedCertificat
 
 /// Decodes the DER of one entry of exactly `length` bytes into a new record. The first element is
 /// copied, the date is read and written again as the setter does, and a third element is the
-/// extensions. Elements behind it are passed over. Free with `ASN1_CRL_FreeRevokedCertificate`.
+/// extensions, its length in shortest form. Elements behind it are passed over. Free with
+/// `ASN1_CRL_FreeRevokedCertificate`.
 /// Returns 0, -1 (also fewer than two elements), -2, -5, -7 (it or the extensions are no SEQUENCE,
 /// or the date is no time), -7000 (memory, or see `ASN1_ReadUtcTime`) or -8 (also null bytes of
 /// length 0).
@@ -941,8 +943,8 @@ VELKORD_API void ASN1_CRL_FreeTbsCertList(TbsCertList* record);
 VELKORD_API int32_t ASN1_CRL_TbsCertListSetVersion(TbsCertList* record, uint32_t version);
 
 /// Sets a field to a copy of a SEQUENCE TLV node, its own length rewritten in shortest form, and
-/// the flag of an optional one to 1. What the field held before is released. Returns 0, -1 (an
-/// element that overruns, memory), -2, -7 (no SEQUENCE) or -8.
+/// the flag of an optional one to 1. What the field held before is released. Returns 0, -1 (length
+/// octets, an element that overruns, memory), -2, -7 (no SEQUENCE) or -8.
 /// @{
 VELKORD_API int32_t ASN1_CRL_TbsCertListSetSignatureAlgorithmIdentifier(TbsCertList* record,
                                                                         const Anybuf* value);
@@ -962,18 +964,19 @@ VELKORD_API int32_t ASN1_CRL_TbsCertListSetNextUpdate(TbsCertList* record, int32
 
 /// Makes the SEQUENCE TLV node of the record: each optional field when its flag is 1, the
 /// extensions under `[0]` EXPLICIT. The record does not change. Free with `ASN1_FreeAnybuf`.
-/// Returns 0, -1 (memory), -4 (a negative time) or -8 (also a field that is to be written and not
-/// set).
+/// Returns 0, -1 (memory), -4 (a negative time), -7000 (the platform refuses a time) or -8 (also a
+/// field that is to be written and not set).
 VELKORD_API int32_t ASN1_CRL_TbsCertListWriteData(const TbsCertList* record, Anybuf** out);
 
 /// Decodes the DER of one signed part of exactly `length` bytes into a new record. Optional
 /// elements are told by their first octet: 0x02 the version; behind thisUpdate, which sets the
 /// form, 0x17 or 0x18 nextUpdate, then 0x30 the revoked certificates; whatever stands next is the
-/// extensions, of which the content is kept. Elements behind them are passed over. A version other
-/// than 2, and a nextUpdate in the other form than thisUpdate, are not written again as they were.
-/// Free with `ASN1_CRL_FreeTbsCertList`. Returns 0, -1 (also a required element missing), -2, -5,
-/// -7 (it, the algorithm or the issuer is no SEQUENCE, or thisUpdate no time), -7000 (memory, or
-/// see `ASN1_ReadUtcTime`) or -8 (also null bytes of length 0).
+/// extensions, of which the content is kept. Elements behind them are passed over. All nodes but
+/// the extensions have their lengths in shortest form. A version other than 2, and a nextUpdate in
+/// the other form than thisUpdate, are not written again as they were. Free with
+/// `ASN1_CRL_FreeTbsCertList`. Returns 0, -1 (also a required element missing), -2, -5, -7 (it, the
+/// algorithm or the issuer is no SEQUENCE, or thisUpdate no time), -7000 (memory, or see
+/// `ASN1_ReadUtcTime`) or -8 (also null bytes of length 0).
 VELKORD_API int32_t ASN1_CRL_TbsCertListDecode(const uint8_t* bytes, uint32_t length,
                                                TbsCertList** out);
 
@@ -992,7 +995,7 @@ VELKORD_API void ASN1_FreePKCS10(PKCS10* record);
 VELKORD_API int32_t ASN1_PKCS10SetVersion(PKCS10* record, uint32_t version);
 
 /// Sets a field to a copy of a SEQUENCE TLV node, its own length rewritten in shortest form.
-/// Returns 0, -1 (an element that overruns, memory), -2, -7 (no SEQUENCE) or -8.
+/// Returns 0, -1 (length octets, an element that overruns, memory), -2, -7 (no SEQUENCE) or -8.
 /// @{
 VELKORD_API int32_t ASN1_PKCS10SetSubject(PKCS10* record, const Anybuf* value);
 VELKORD_API int32_t ASN1_PKCS10SetSubjectPublicKeyInfo(PKCS10* record, const Anybuf* value);
@@ -1008,9 +1011,10 @@ VELKORD_API int32_t ASN1_PKCS10SetAttributes(PKCS10* record, const Anybuf* value
 VELKORD_API int32_t ASN1_PKCS10WriteData(const PKCS10* record, Anybuf** out);
 
 /// Decodes the DER of one signed part of exactly `length` bytes into a new record. The first
-/// element is read as a number and written again. The attributes may be missing, and such a record
-/// can be written only after they are set; they keep the tag number of their element, and come back
-/// constructed. Elements behind them are passed over. Free with `ASN1_FreePKCS10`.
+/// element is read as a number and written again; the other nodes have their lengths in shortest
+/// form. The attributes may be missing, and such a record can be written only after they are set;
+/// they keep the tag number of their element, and come back constructed. Elements behind them are
+/// passed over. Free with `ASN1_FreePKCS10`.
 /// Returns 0, -1 (also fewer than three elements), -2, -7 (it or one of elements 2 and 3 is no
 /// SEQUENCE), -7000 (memory) or -8 (also null bytes of length 0).
 VELKORD_API int32_t ASN1_PKCS10Decode(const uint8_t* bytes, uint32_t length, PKCS10** out);
@@ -1031,8 +1035,8 @@ VELKORD_API int32_t ASN1_PKCS6_SetCertificateInfoVersion(ExtendedCertificateInfo
                                                          uint32_t version);
 
 /// Sets a field to a copy of a SEQUENCE or a SET TLV node, its own length rewritten in shortest
-/// form. What the field held before is released. Returns 0, -1 (an element that overruns, memory),
-/// -2, -7 (the certificate is no SEQUENCE, the attributes are no SET) or -8.
+/// form. What the field held before is released. Returns 0, -1 (length octets, an element that
+/// overruns, memory), -2, -7 (the certificate is no SEQUENCE, the attributes are no SET) or -8.
 /// @{
 VELKORD_API int32_t ASN1_PKCS6_SetCertificateInfoX509(ExtendedCertificateInfo* record,
                                                       const Anybuf* value);
@@ -1046,8 +1050,9 @@ VELKORD_API int32_t ASN1_PKCS6_SetCertificateInfoAttributes(ExtendedCertificateI
 VELKORD_API int32_t ASN1_PKCS6_CertificateInfoWriteData(const ExtendedCertificateInfo* record,
                                                         Anybuf** out);
 
-/// Decodes the DER of one signed part of exactly `length` bytes into a new record. Elements behind
-/// the third are passed over. Free with `ASN1_PKCS6_FreeExtendedCertificateInfo`.
+/// Decodes the DER of one signed part of exactly `length` bytes into a new record. The version is
+/// the low 32 bits of a first element of any type; the nodes have their lengths in shortest form.
+/// Elements behind the third are passed over. Free with `ASN1_PKCS6_FreeExtendedCertificateInfo`.
 /// Returns 0, -1 (also fewer than three elements), -2, -7 (it or the certificate is no SEQUENCE,
 /// the attributes are no SET), -7000 (memory) or -8 (also null bytes of length 0).
 VELKORD_API int32_t ASN1_PKCS6_CertificateInfoDecode(const uint8_t* bytes, uint32_t length,
@@ -1117,14 +1122,16 @@ VELKORD_API int32_t ZantDecodePrivateKey(ZantPrivateKey* key, const uint8_t* der
 VELKORD_API int32_t ASN1_EccPubkey2Der(const EccPubkey* key, uint8_t* der, uint32_t* derLen);
 
 /// Fills a record from the DER of a SubjectPublicKeyInfo of exactly `derLen` bytes, whatever its
-/// algorithm. The point's first byte is not tested. Returns 0, or -1, the record then untouched:
-/// the DER does not add up, the point is shorter than 65 bytes, an argument is null.
+/// algorithm: the point's second to 65th byte and `bits`, 256. Its first byte is not tested.
+/// Returns 0, or -1, the record then untouched: the DER does not add up, an element is missing, the
+/// point is shorter than 65 bytes, an argument is null.
 VELKORD_API int32_t ASN1_Der2EccPubkey(const uint8_t* der, uint32_t derLen, EccPubkey* key);
 
 /// Fills a record from the DER of an ECPrivateKey in a PrivateKeyInfo of PKCS#8, of exactly
-/// `derLen` bytes, whatever its algorithm. A value shorter than 32 bytes stands at the start of
-/// `d`, and the bytes behind it stay. Returns 0, or -1, the record then untouched: the DER does not
-/// add up, an element is missing, the value is longer than 32 bytes, an argument is null.
+/// `derLen` bytes, whatever its algorithm; `bits` becomes 256. A value shorter than 32 bytes stands
+/// at the start of `d`, and the bytes behind it stay. Returns 0, or -1, the record then untouched:
+/// the DER does not add up, an element is missing, the value is longer than 32 bytes, an argument
+/// is null.
 VELKORD_API int32_t ASN1_Der2EccPrikey(const uint8_t* der, uint32_t derLen, EccPrikey* key);
 
 // -------------------------------------------------------------------------------------------------
@@ -1132,35 +1139,35 @@ VELKORD_API int32_t ASN1_Der2EccPrikey(const uint8_t* der, uint32_t derLen, EccP
 // leaves all out arguments alone: preset the lengths to 0. Nothing is allocated.
 // -------------------------------------------------------------------------------------------------
 
-/// Writes the SEQUENCE of two positive INTEGERs to `der`, whose room is that of both numbers and 2
-/// to 6 bytes for each header of the three, 1 more for each number. Leading zero bytes stay.
+/// Writes the SEQUENCE of two positive INTEGERs to `der`, which needs room for both numbers and 20
+/// bytes more. Leading zero bytes stay.
 VELKORD_API int32_t ASN1_SM2_SM2SignatureEncode(const uint8_t* r, uint32_t rLen, const uint8_t* s,
                                                 uint32_t sLen, uint8_t* der, uint32_t* derLen);
 
 /// Gives the two numbers of a signature, each without the zero byte that keeps it positive. `r` and
-/// `s` need room for what the DER holds.
+/// `s` need `derLen` bytes each.
 VELKORD_API int32_t ASN1_SM2_SM2SignatureDecode(uint8_t* r, uint32_t* rLen, uint8_t* s,
                                                 uint32_t* sLen, const uint8_t* der,
                                                 uint32_t derLen);
 
-/// Writes a private value as an INTEGER to `der`, whose room is that of the value, 1 byte more and
-/// 2 to 6 bytes for the header. Leading zero bytes stay.
+/// Writes a private value as an INTEGER to `der`, which needs room for the value and 7 bytes more.
+/// Leading zero bytes stay.
 VELKORD_API int32_t ASN1_SM2_PrikeyEncode(const uint8_t* value, uint32_t valueLen, uint8_t* der,
                                           uint32_t* derLen);
 
-/// Gives a private value without the zero byte that keeps it positive. `value` needs room for what
-/// the DER holds.
+/// Gives a private value without the zero byte that keeps it positive. `value` needs `derLen`
+/// bytes.
 VELKORD_API int32_t ASN1_SM2_PrikeyDecode(uint8_t* value, uint32_t* valueLen, const uint8_t* der,
                                           uint32_t derLen);
 
-/// Writes a public point as a BIT STRING to `der`: 0x04, X and Y, together at most 256 bytes, and
-/// at most 5 bytes in front. Its unused-bits octet comes from its last byte as in
+/// Writes a public point as a BIT STRING to `der`: 0x04, X and Y, together at most 256 bytes, and 5
+/// bytes at most in front. Its unused-bits octet comes from its last byte as in
 /// `ASN1_CreateAnybuf`.
 VELKORD_API int32_t ASN1_SM2_PubkeyEncode(const uint8_t* x, uint32_t xLen, const uint8_t* y,
                                           uint32_t yLen, uint8_t* der, uint32_t* derLen);
 
 /// Gives the two halves, of equal length, of what follows the first byte of a public point; an odd
-/// last byte is left out. `x` and `y` need room for half of the DER each.
+/// last byte is left out. `x` and `y` need half of `derLen` each, at most 127 bytes.
 VELKORD_API int32_t ASN1_SM2_PubkeyDecode(uint8_t* x, uint32_t* xLen, uint8_t* y, uint32_t* yLen,
                                           const uint8_t* der, uint32_t derLen);
 
