@@ -109,6 +109,8 @@ TEST(Allocation, DecodersMakeWhatTheyHandOutOrNothing) {
   const std::string issuer = Describe(record->issuer);
   EXPECT_EQ(Watched(1, [&] { return ASN1_TBSCertificateSetIssuer(record, tbs.get()); }), -1);
   EXPECT_EQ(Describe(record->issuer), issuer);
+  EXPECT_EQ(Watched(2, [&] { return ASN1_TBSCertificateSetVersion(record, 7); }), -1);
+  EXPECT_EQ(record->version, 0U);
   ASN1_FreeTBSCertificate(record);
 
   // The date of an entry is formatted, which has a code of its own.

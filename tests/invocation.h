@@ -28,8 +28,8 @@ class Invocation {
     }
   }
 
-  // Number of out arguments.
-  size_t OutCount() const { return outs_.size(); }
+  // Number of out arguments, sizes of buffers among them.
+  size_t OutCount() const { return outCount_; }
 
   // All out arguments, " ; " between them; `kept` for one that was left alone.
   std::string Results();
@@ -47,9 +47,11 @@ class Invocation {
 
   static constexpr int32_t kUntouchedInteger = 99;
 
+  bool NextIsNulled() { return outCount_++ == nulled_; }
+
   Out* AddOut(char kind) {
     outs_.emplace_back(kind);
-    return outs_.size() - 1 == nulled_ ? nullptr : &outs_.back();
+    return NextIsNulled() ? nullptr : &outs_.back();
   }
 
   const std::string& Next() { return at_ < in_.size() ? in_[at_++] : none_; }
@@ -107,7 +109,7 @@ class Invocation {
                         (outs_.back().kind == 'b' || outs_.back().kind == 't');
     if (!isSize) return reinterpret_cast<uint32_t*>(Take(static_cast<int32_t**>(nullptr)));
     outs_.back().sized = true;
-    return &outs_.back().buffer.size;
+    return NextIsNulled() ? nullptr : &outs_.back().buffer.size;
   }
 
   static std::string Result(Out& out);
@@ -116,6 +118,7 @@ class Invocation {
   const size_t nulled_;
   const std::string none_;
   size_t at_ = 0;
+  size_t outCount_ = 0;
   int64_t length_ = -1;
   std::list<NodePtr> nodes_;
   std::list<ByteVector> bytes_;

@@ -64,7 +64,7 @@ Callers::mapped_type Decoder(int32_t (*decode)(Key*, const uint8_t*, int32_t)) {
 }
 
 std::string EncodePoint(const Arguments& in) {
-  EccPubkey key{};
+  EccPubkey key{7, {}, {}};
   const ByteVector x = FromHex(in[0]);
   const ByteVector y = FromHex(in[1]);
   std::copy(x.begin(), x.end(), key.x);
@@ -75,6 +75,9 @@ std::string EncodePoint(const Arguments& in) {
   EXPECT_EQ(ASN1_EccPubkey2Der(&key, out.Data(), nullptr), -1);
   EXPECT_EQ(out.Text(), "kept");
   EXPECT_EQ(ASN1_EccPubkey2Der(&key, out.Data(), &out.size), 0);
+  EccPubkey back{};
+  EXPECT_EQ(ASN1_Der2EccPubkey(out.Data(), out.size, &back), 0);
+  EXPECT_EQ(ToHex(back.x, 32) + ToHex(back.y, 32), ToHex(key.x, 32) + ToHex(key.y, 32));
   return out.Text();
 }
 

@@ -18,10 +18,18 @@ TEST(Nodes, MayBeReadInPlaceAndKeepTheirNeighbours) {
             }),
             "16: 30 05 06 01 2A 30 00");
   EXPECT_EQ(ToHex(parameter->data, parameter->dataLen), "30 00");
-  // A size beyond 32 bits is refused before a byte is read.
+}
+
+// A size beyond 32 bits is refused before a byte is read or written.
+TEST(Sizes, BeyondTheirWidthAreRefused) {
   uint8_t byte = 0;
+  uint32_t size = 7;
   const Anybuf huge = {&byte, 0xFFFFFFFF, 0, 2, 4, nullptr, nullptr};
   EXPECT_EQ(Made([&](Anybuf** out) { return ASN1_WriteSequence(&huge, out); }), "-1");
+  EXPECT_EQ(ASN1_SM2_SM2SignatureEncode(&byte, 0xFFFFFFFF, &byte, 1, &byte, &size), 0);
+  EXPECT_EQ(ASN1_SM2_PrikeyEncode(&byte, 0xFFFFFFFF, &byte, &size), 0);
+  EXPECT_EQ(ASN1_SM2_PubkeyEncode(&byte, 0xFFFFFFFF, &byte, 1, &byte, &size), 0);
+  EXPECT_EQ(size, 7U);
 }
 
 TEST(Inspection, RecordOwnsWhatItsFieldsHold) {
