@@ -10,6 +10,10 @@ uint32_t Number(const std::string& text) {
   return static_cast<uint32_t>(std::stoll(text, nullptr, 0));
 }
 
+void ExpectKept(const std::string& results) {
+  EXPECT_EQ(results.find_first_not_of("kept ;"), std::string::npos) << results;
+}
+
 // The code of a failure, which must leave all out arguments alone, or the results, after a code
 // above 0 when there is one.
 template <typename Function>
@@ -19,24 +23,60 @@ Caller Lenient(Function function) {
     const int32_t code = call.Run(function);
     const std::string results = call.Results();
     if (call.OutCount() == 0) return std::to_string(code);
-    if (code < 0) {
-      EXPECT_EQ(results.find_first_not_of("kept ;"), std::string::npos) << results;
-      return std::to_string(code);
-    }
+    if (code < 0) ExpectKept(results);
+    if (code < 0) return std::to_string(code);
     return code == 0 ? results : std::to_string(code) + " ; " + results;
   };
 }
 
-// The same for a function that refuses a null pointer in place of any out argument.
-template <typename Function>
+// The same for a function that refuses a null pointer in place of any out argument, with
+// `kRefusal` and the others left alone.
+template <int32_t kRefusal = VELKORD_NULL_ARGUMENT, typename Function>
 Caller Strict(Function function) {
   return [=](const Arguments& in) {
     size_t outs = 1;
     for (size_t nulled = 0; nulled < outs; ++nulled) {
       Invocation call(in, nulled);
-      EXPECT_EQ(call.Run(function), VELKORD_NULL_ARGUMENT) << nulled;
+      EXPECT_EQ(call.Run(function), kRefusal) << nulled;
+      ExpectKept(call.Results());
       outs = call.OutCount();
     }
+    return Lenient(function)(in);
+  };
+}
+
+// A function of the SM2 family, whose result is always 0.
+template <typename Function>
+Caller Silent(Function function) {
+  return Strict<VELKORD_OK>(function);
+}
+
+// A function of the EC family, which refuses everything with one code.
+template <typename Function>
+Caller Curt(Function function) {
+  return Strict<VELKORD_FAILURE>(function);
+}
+
+// A function that fills a record as far as it comes: its code before the record.
+template <typename Function>
+Caller Filling(Function function) {
+  return [=](const Arguments& in) {
+    EXPECT_EQ(Invocation(in, 0).Run(function), VELKORD_FAILURE);
+    Invocation call(in);
+    const int32_t code = call.Run(function);
+    return std::to_string(code) + " ; " + call.Results();
+  };
+}
+
+// A function that needs no buffer to tell the size of its output.
+template <typename Function>
+Caller Sizing(Function function) {
+  return [=](const Arguments& in) {
+    EXPECT_EQ(Invocation(in, 1).Run(function), VELKORD_FAILURE);
+    Invocation sizing(in, 0);
+    Invocation call(in);
+    EXPECT_EQ(sizing.Run(function), call.Run(function));
+    EXPECT_EQ(sizing.Results().size(), call.Results().size());
     return Lenient(function)(in);
   };
 }
@@ -221,7 +261,13 @@ const Callers kCallers = {
     NAMED(Strict, ASN1_GetValidity), NAMED(Strict, ASN1_GetDerRelativeDistinguishedNameOne),
     NAMED(Strict, ASN1_DecodeDerRelativeDistinguishedNameOne), NAMED(Strict, ASN1_SetExtension),
     NAMED(Strict, ASN1_GetExtensionOne), NAMED(Strict, ASN1_GetExtension),
-    NAMED(Optional, ASN1_GetAlgorithmIdentifier), NAMED(Lenient, base64_encode),
+    NAMED(Sizing, ZantEncodePublicKey), NAMED(Sizing, ZantEncodePrivateKey),
+    NAMED(Filling, ZantDecodePublicKey), NAMED(Filling, ZantDecodePrivateKey),
+    NAMED(Curt, ASN1_EccPubkey2Der), NAMED(Curt, ASN1_Der2EccPubkey),
+    NAMED(Curt, ASN1_Der2EccPrikey), NAMED(Silent, ASN1_SM2_SM2SignatureEncode),
+    NAMED(Silent, ASN1_SM2_SM2SignatureDecode), NAMED(Silent, ASN1_SM2_PrikeyEncode),
+    NAMED(Silent, ASN1_SM2_PrikeyDecode), NAMED(Silent, ASN1_SM2_PubkeyEncode),
+    NAMED(Silent, ASN1_SM2_PubkeyDecode), NAMED(Optional, ASN1_GetAlgorithmIdentifier), NAMED(Lenient, base64_encode),
     NAMED(Lenient, base64_decode), NAMED(Lenient, DER2PEM_data_format),
     NAMED(Lenient, PEM2DER_data_format), NAMED(Lenient, utf8ToUni), NAMED(Lenient, zhsToUtf8s),
     NAMED(Lenient, utf8sToZhs), NAMED(Lenient, zhToWc), NAMED(Lenient, wcToZh),
@@ -242,7 +288,7 @@ const Callers kCallers = {
 }  // namespace
 
 std::string Call(const std::string& function, const Arguments& arguments) {
-  for (const Callers* callers : {&kCallers, &kCertificateCallers, &kRecordCallers, &kKeyCallers}) {
+  for (const Callers* callers : {&kCallers, &kCertificateCallers, &kRecordCallers}) {
     const auto caller = callers->find(function);
     if (caller != callers->end()) return caller->second(arguments);
   }

@@ -11,7 +11,6 @@ using Callers = std::map<std::string, std::function<std::string(const Arguments&
 
 extern const Callers kCertificateCallers;
 extern const Callers kRecordCallers;
-extern const Callers kKeyCallers;
 
 // The results of a call, or its code. Nodes and bytes are written as in `hex.h`, text as it stands
 // and numbers in decimal or with 0x.

@@ -56,7 +56,7 @@ std::string Made(Call call) {
 struct Buffer {
   static constexpr uint8_t kUntouched = 0xEE;
   static constexpr uint32_t kNoSize = 0xEEEE;
-  ByteVector bytes = ByteVector(600, kUntouched);
+  ByteVector bytes = ByteVector(1500, kUntouched);
   uint32_t size = kNoSize;
 
   uint8_t* Data() { return bytes.data(); }

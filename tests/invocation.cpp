@@ -27,8 +27,10 @@ std::string Invocation::Result(Out& out) {
   }
   Buffer& buffer = out.buffer;
   if (out.kind == 'b') {
-    // A buffer without a size holds one byte.
-    if (!out.sized && buffer.bytes[0] != Buffer::kUntouched) buffer.size = 1;
+    const auto isWritten = [](uint8_t byte) { return byte != Buffer::kUntouched; };
+    if (!out.sized && std::any_of(buffer.Data(), buffer.Data() + out.size, isWritten)) {
+      buffer.size = out.size;
+    }
     return buffer.Text();
   }
   // A text ends with a zero that its size does not count; without one nothing was written.

@@ -42,6 +42,7 @@ class Invocation {
     Anybuf* node = &untouched;
     Buffer buffer;
     bool sized = false;
+    uint32_t size = 1;  // Of bytes that no size goes with: a record, or else one byte.
     int32_t integer = kUntouchedInteger;
   };
 
@@ -83,6 +84,24 @@ class Invocation {
 
   // A line end in a text is written as `|`.
   const char* Take(const char**);
+
+  // A flat record as its bytes.
+  template <typename Record>
+  const Record* Take(const Record**) {
+    const std::string& text = Next();
+    if (text == "null") return nullptr;
+    const ByteVector& bytes = bytes_.emplace_back(FromHex(text));
+    EXPECT_EQ(bytes.size(), sizeof(Record));
+    return reinterpret_cast<const Record*>(bytes.data());
+  }
+
+  template <typename Record>
+  Record* Take(Record**) {
+    Out* out = AddOut('b');
+    if (out == nullptr) return nullptr;
+    out->size = sizeof(Record);
+    return reinterpret_cast<Record*>(out->buffer.Data());
+  }
 
   Anybuf** Take(Anybuf***) {
     Out* out = AddOut('n');
