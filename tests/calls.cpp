@@ -288,7 +288,7 @@ const Callers kCallers = {
 }  // namespace
 
 std::string Call(const std::string& function, const Arguments& arguments) {
-  for (const Callers* callers : {&kCallers, &kCertificateCallers, &kRecordCallers}) {
+  for (const Callers* callers : {&kCallers, &kInspectionCallers, &kRecordCallers}) {
     const auto caller = callers->find(function);
     if (caller != callers->end()) return caller->second(arguments);
   }

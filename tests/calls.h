@@ -9,7 +9,7 @@
 
 using Callers = std::map<std::string, std::function<std::string(const Arguments&)>>;
 
-extern const Callers kCertificateCallers;
+extern const Callers kInspectionCallers;
 extern const Callers kRecordCallers;
 
 // The results of a call, or its code. Nodes and bytes are written as in `hex.h`, text as it stands

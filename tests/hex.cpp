@@ -74,6 +74,12 @@ NodePtr ToNode(const std::string& text) {
   return NodePtr(node);
 }
 
+NodePtr Sequence(const std::string& elements) {
+  Anybuf* node = nullptr;
+  EXPECT_EQ(ASN1_WriteSequence(ToNode(elements).get(), &node), 0);
+  return NodePtr(node);
+}
+
 std::string Describe(const Anybuf* chain) {
   std::string text;
   const Anybuf* last = nullptr;

@@ -37,6 +37,12 @@ inline uint32_t Size(const ByteVector& bytes) { return static_cast<uint32_t>(byt
 // chain. Its block has exactly the bytes' size.
 NodePtr ToNode(const std::string& text);
 
+// One SEQUENCE over elements.
+NodePtr Sequence(const std::string& elements);
+
+// The bytes of a node as text.
+inline std::string Hex(const NodePtr& node) { return ToHex(node->data, node->dataLen); }
+
 // A chain as text, its nodes as above with " | " between them.
 std::string Describe(const Anybuf* chain);
 

@@ -1,7 +1,7 @@
 // Who owns what: nodes read in place, chains taken apart, and what an inspection record holds.
 #include <cstdlib>
 
-#include "sample.h"
+#include "hex.h"
 
 namespace {
 
@@ -30,6 +30,10 @@ TEST(Sizes, BeyondTheirWidthAreRefused) {
   EXPECT_EQ(ASN1_SM2_PrikeyEncode(&byte, 0xFFFFFFFF, &byte, &size), 0);
   EXPECT_EQ(ASN1_SM2_PubkeyEncode(&byte, 0xFFFFFFFF, &byte, 1, &byte, &size), 0);
   EXPECT_EQ(size, 7U);
+  ZantPublicKey publicKey{};
+  ZantPrivateKey privateKey{};
+  EXPECT_EQ(ZantDecodePublicKey(&publicKey, &byte, INT32_MIN), -1);
+  EXPECT_EQ(ZantDecodePrivateKey(&privateKey, &byte, INT32_MIN), -1);
 }
 
 TEST(Inspection, RecordOwnsWhatItsFieldsHold) {

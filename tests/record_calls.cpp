@@ -243,6 +243,7 @@ const RecordKind<PKCS7Context> kPkcs7Context = {
 
 const Callers kRecordCallers = {
     {"TBSCertificate", Builder(kTbsCertificate)},
+    {"ASN1_TBSCertificateDecode", Decoder(kTbsCertificate)},
     {"Certificate", Builder(kCertificate)},
     {"ASN1_CertificateDecode", Decoder(kCertificate)},
     {"RevokedCertificate", Builder(kRevokedCertificate)},

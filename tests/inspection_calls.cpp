@@ -1,29 +1,7 @@
-// Calls of certificate inspection, and of the decoder of what it looks into.
+// Calls of certificate inspection.
 #include "calls.h"
-#include "sample.h"
 
 namespace {
-
-// A SEQUENCE of a version and a serial number, five sample elements, and more elements.
-std::string DecodeTbs(const Arguments& in) {
-  const NodePtr source = Sequence(in[0] == "none" ? in[1] : SampleElements(in[0]) + " " + in[1]);
-  TBSCertificate untouched{};
-  TBSCertificate* record = &untouched;
-  const int32_t code = ASN1_TBSCertificateDecode(source.get(), &record);
-  EXPECT_EQ(code != 0, record == &untouched);
-  if (code != 0) return std::to_string(code);
-  EXPECT_EQ(record->version, 0U);
-  EXPECT_EQ(Describe(record->subjectPublicKeyInfo), "16: " + std::string(kKeyInfo));
-  EXPECT_EQ(record->hasIssuerUniqueID, record->issuerUniqueID != nullptr ? 1U : 0U);
-  EXPECT_EQ(record->hasSubjectUniqueID, record->subjectUniqueID != nullptr ? 1U : 0U);
-  EXPECT_EQ(record->hasExtensions, record->extensions != nullptr ? 1U : 0U);
-  std::string text = Describe(record->versionNode) + " ; " + Describe(record->serialNumber);
-  for (const Anybuf* node : {record->issuerUniqueID, record->subjectUniqueID, record->extensions}) {
-    text += " ; " + Describe(node);
-  }
-  ASN1_FreeTBSCertificate(record);
-  return text;
-}
 
 using InspectionPtr = std::unique_ptr<X509Cert, FreeWith<X509CertFree>>;
 
@@ -77,8 +55,7 @@ std::string LookUpItem(const Arguments& in) {
 
 }  // namespace
 
-const Callers kCertificateCallers = {
-    {"ASN1_TBSCertificateDecode", DecodeTbs},
+const Callers kInspectionCallers = {
     {"X509CertGetSubject", ListSubject},
     {"X509CertGetOIDValue", LookUp},
     {"X509CertGetOIDValue-items", LookUpItem},
