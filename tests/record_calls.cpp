@@ -2,6 +2,7 @@
 // sets it and gives the codes of the setters that failed and the written node; `field=number` and
 // `field=unset` change a field itself. A decoder gives all fields in order and the node written
 // again.
+#include <utility>
 #include <variant>
 
 #include "calls.h"
@@ -56,9 +57,9 @@ std::string Fields(const RecordKind<Record>& kind, const Record& record) {
   for (const auto& [name, field] : kind.fields) {
     if (!text.empty()) text += " ; ";
     if (const auto* node = std::get_if<Anybuf * Record::*>(&field)) {
-      text += Describe(record.**node);
+      text += Describe(record.*(*node));
     } else if (const auto* number = std::get_if<uint32_t Record::*>(&field)) {
-      text += std::to_string(record.**number);
+      text += std::to_string(record.*(*number));
     } else {
       text += std::to_string(record.*std::get<int32_t Record::*>(field));
     }
@@ -82,7 +83,7 @@ std::string Apply(const RecordKind<Record>& kind, Record* record, const std::str
   for (const auto& [fieldName, field] : kind.fields) {
     if (name != fieldName) continue;
     if (const auto* number = std::get_if<uint32_t Record::*>(&field)) {
-      record->** number = static_cast<uint32_t>(std::stoul(value));
+      record->*(*number) = static_cast<uint32_t>(std::stoul(value));
     } else {
       ASN1_FreeAnybuf(std::exchange(record->*std::get<Anybuf * Record::*>(field), nullptr));
     }
