@@ -1102,10 +1102,11 @@ VELKORD_API int32_t ZantEncodePrivateKey(const ZantPrivateKey* key, uint8_t* der
 /// @}
 
 /// Fills a record from DER of exactly `derLen` bytes. A private key may stand in a PrivateKeyInfo
-/// of PKCS#8, told by a second element with 13 bytes of content; no tag inside the outer SEQUENCE
-/// is tested. A failure while reading leaves the numbers read so far and zero bytes elsewhere; a
-/// null argument and a `derLen` below 1 leave the record alone. A record that was decoded is not
-/// ready to be encoded unless every number fills its field.
+/// of PKCS#8, told by a second element with 13 bytes of content. No tag but that of the SEQUENCE
+/// around the numbers, and around the PrivateKeyInfo, is tested. A failure while reading leaves the
+/// numbers read so far and zero bytes elsewhere; a null argument and a `derLen` below 1 leave the
+/// record alone. A record that was decoded is not ready to be encoded unless every number fills its
+/// field.
 /// Returns 0, -1 (also a missing element, a number too long for its field), -2 or -7 (no SEQUENCE).
 /// @{
 VELKORD_API int32_t ZantDecodePublicKey(ZantPublicKey* key, const uint8_t* der, int32_t derLen);

@@ -81,7 +81,7 @@ Caller Sizing(Function function) {
   };
 }
 
-// The same for a function whose out arguments may each be null.
+// A function whose out arguments may each be null.
 template <typename Function>
 Caller Optional(Function function) {
   return [=](const Arguments& in) {
@@ -267,10 +267,11 @@ const Callers kCallers = {
     NAMED(Curt, ASN1_Der2EccPrikey), NAMED(Silent, ASN1_SM2_SM2SignatureEncode),
     NAMED(Silent, ASN1_SM2_SM2SignatureDecode), NAMED(Silent, ASN1_SM2_PrikeyEncode),
     NAMED(Silent, ASN1_SM2_PrikeyDecode), NAMED(Silent, ASN1_SM2_PubkeyEncode),
-    NAMED(Silent, ASN1_SM2_PubkeyDecode), NAMED(Optional, ASN1_GetAlgorithmIdentifier), NAMED(Lenient, base64_encode),
-    NAMED(Lenient, base64_decode), NAMED(Lenient, DER2PEM_data_format),
-    NAMED(Lenient, PEM2DER_data_format), NAMED(Lenient, utf8ToUni), NAMED(Lenient, zhsToUtf8s),
-    NAMED(Lenient, utf8sToZhs), NAMED(Lenient, zhToWc), NAMED(Lenient, wcToZh),
+    NAMED(Silent, ASN1_SM2_PubkeyDecode), NAMED(Optional, ASN1_GetAlgorithmIdentifier),
+    NAMED(Lenient, base64_encode), NAMED(Lenient, base64_decode),
+    NAMED(Lenient, DER2PEM_data_format), NAMED(Lenient, PEM2DER_data_format),
+    NAMED(Lenient, utf8ToUni), NAMED(Lenient, zhsToUtf8s), NAMED(Lenient, utf8sToZhs),
+    NAMED(Lenient, zhToWc), NAMED(Lenient, wcToZh),
     NAMED(Freer, ASN1_FreeAnybuf), NAMED(Freer, ASN1_FreeSequence), NAMED(Freer, ASN1_FreeSet),
     NAMED(Freer, ASN1_FreeNames), NAMED(Freer, ASN1_FreeRelativeDistinguishedName),
     NAMED(Freer, ASN1_FreeExtension), NAMED(Freer, ASN1_FreeExtensions),

@@ -111,18 +111,27 @@ inline int32_t NextSequence(DerElements& elements, Anybuf*& field) {
   return DerRewrap(kSequence, element.whole, &field);
 }
 
-// Makes a record of the bytes of a SEQUENCE. `fill` fills it from the elements, and when that fails
-// nothing is left. 0, -1, -2, -7, -7000, -8, or the code of `fill`.
+// Makes a record that `fill` fills, and when that fails nothing is left. 0, -7000, or the code of
+// `fill`.
+template <auto kFree, typename Record, typename Fill>
+int32_t MakeRecord(Record** out, Fill fill) {
+  Owned<Record, kFree> record;
+  VELKORD_TRY(CreateRecord(record.Out()));
+  VELKORD_TRY(fill(*record));
+  *out = record.release();
+  return VELKORD_OK;
+}
+
+// Makes a record of the bytes of a SEQUENCE, filled from its elements. 0, -1, -2, -7, -7000, -8, or
+// the code of `fill`.
 template <auto kFree, typename Record, typename Fill>
 int32_t DecodeRecord(const uint8_t* bytes, uint32_t length, Record** out, Fill fill) {
   if (bytes == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
-  Owned<Record, kFree> record;
-  VELKORD_TRY(CreateRecord(record.Out()));
-  DerElements elements;
-  VELKORD_TRY(elements.Open(Bytes(bytes, length), kSequenceType));
-  VELKORD_TRY(fill(*record, elements));
-  *out = record.release();
-  return VELKORD_OK;
+  return MakeRecord<kFree>(out, [&](Record& record) -> int32_t {
+    DerElements elements;
+    VELKORD_TRY(elements.Open(Bytes(bytes, length), kSequenceType));
+    return fill(record, elements);
+  });
 }
 
 }  // namespace velkord

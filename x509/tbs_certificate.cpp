@@ -176,9 +176,6 @@ int32_t ASN1_TBSCertificateDecode(const Anybuf* source, TBSCertificate** out) {
   if (source == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
   DerElements elements;
   VELKORD_TRY(elements.Open(NodeBytes(*source), kSequenceType));
-  Owned<TBSCertificate, ASN1_FreeTBSCertificate> record;
-  VELKORD_TRY(CreateRecord(record.Out()));
-  VELKORD_TRY(Fill(*record, elements));
-  *out = record.release();
-  return VELKORD_OK;
+  return MakeRecord<ASN1_FreeTBSCertificate>(
+      out, [&](TBSCertificate& record) { return Fill(record, elements); });
 }
