@@ -1,175 +1,157 @@
-// Allocations counted and made to fail. The C allocator is replaced here for the whole program.
+// Runs every case with the library's requests for memory failing in turn. The program is linked
+// with the library's objects, whose calls of the C allocator come here.
 #include <algorithm>
 #include <cstdlib>
-#include <ctime>
+#include <iostream>
+#include <map>
+#include <set>
 
-#include "hex.h"
+#include "calls.h"
 
-// NOLINTBEGIN(bugprone-reserved-identifier): the C library's names for its own allocator.
+// NOLINTBEGIN(bugprone-reserved-identifier): the linker's names for a wrapped function.
 extern "C" {
-void* __libc_malloc(size_t size);
-void* __libc_calloc(size_t count, size_t size);
-void __libc_free(void* block);
+void* __real_malloc(size_t size);
+void* __real_calloc(size_t count, size_t size);
+void __real_free(void* block);
 }
-// NOLINTEND(bugprone-reserved-identifier)
 
 namespace {
 
-// While `counting`, requests and blocks in use are counted and the request of number `failing`
-// fails.
-bool counting = false;
-int requests = 0;
-int inUse = 0;
-int failing = 0;
+// While `watching`, the request of number `failing` fails and the blocks of the others are noted.
+bool watching = false;
+size_t failing = 0;
+size_t requests = 0;
+std::set<void*> blocks;
 
-bool Refused() {
-  if (!counting) return false;
-  if (++requests == failing) return true;
-  ++inUse;
-  return false;
+bool Refused() { return watching && ++requests == failing; }
+
+void* Noted(void* block) {
+  if (watching) blocks.insert(block);
+  return block;
 }
 
 }  // namespace
 
 extern "C" {
 
-void* malloc(size_t size) { return Refused() ? nullptr : __libc_malloc(size); }
+void* __wrap_malloc(size_t size) { return Refused() ? nullptr : Noted(__real_malloc(size)); }
 
-void* calloc(size_t count, size_t size) { return Refused() ? nullptr : __libc_calloc(count, size); }
+void* __wrap_calloc(size_t count, size_t size) {
+  return Refused() ? nullptr : Noted(__real_calloc(count, size));
+}
 
-void free(void* block) {
-  if (counting && block != nullptr) --inUse;
-  __libc_free(block);
+void __wrap_free(void* block) {
+  if (watching) blocks.erase(block);
+  __real_free(block);
 }
 
 }  // extern "C"
+// NOLINTEND(bugprone-reserved-identifier)
 
 namespace {
 
-// Calls with the allocator watched and the n-th request failing, none for 0.
-template <typename Call>
-int32_t Watched(int n, Call call) {
+// Makes a call with the n-th request failing, none for 0. `requests` and `blocks` then tell how
+// many it made and what it left in use.
+int32_t CallFailing(size_t n, const LibraryCall& call) {
   requests = 0;
-  inUse = 0;
+  blocks.clear();
   failing = n;
-  counting = true;
+  watching = true;
   const int32_t code = call();
-  counting = false;
+  watching = false;
   return code;
 }
 
+// The code for each request in turn that fails, the last one for all behind it.
 using Codes = std::vector<int32_t>;
+using CodeTable = std::map<AnyFunction, Codes>;
 
-// Fails each request of a call in turn: its code, and nothing that stays in use. The call makes no
-// more requests than there are codes, and hands out every block.
-template <typename Call>
-void Sweep(const Codes& codes, Call call) {
-  int n = 0;
-  for (const int32_t expected : codes) {
-    EXPECT_EQ(Watched(++n, call), expected) << n;
-    EXPECT_EQ(inUse, 0) << n;
+template <typename... Functions>
+void Add(CodeTable& table, const Codes& codes, Functions*... functions) {
+  (table.insert({reinterpret_cast<AnyFunction>(functions), codes}), ...);
+}
+
+// Every other function gives -1.
+const CodeTable kCodes = [] {
+  CodeTable table;
+  Add(table, {0}, ASN1_AddSequence, ASN1_AddSet, ASN1_AddName, ASN1_AddRelativeDistinguishedName,
+      ASN1_AddExtensions);
+  Add(table, {-7000}, ASN1_WriteGeneralizedTime, ASN1_WriteUtcTime, ASN1_ReadObjectId,
+      ASN1_SetAttributeTypeAndValue, ASN1_CRL_SetRevokedCertificateRevocationDate);
+  Add(table, {-7000}, ASN1_CreateTBSCertificate, ASN1_CreateCertificate,
+      ASN1_CRL_CreateRevokedCertificate, ASN1_CRL_CreateTbsCertList, ASN1_CRL_CreateCertificateList,
+      ASN1_CreatePKCS10, ASN1_CreatePKCS10Request, ASN1_PKCS6_CreateExtendedCertificateInfo,
+      ASN1_PKCS6_CreateExtendedCertificate, ASN1_PKCS7_CreateContext);
+  Add(table, {-7000, -1}, DecodeTbsCertificate, ASN1_CertificateDecode, ASN1_CRL_TbsCertListDecode,
+      ASN1_CRL_CertificateListDecode, ASN1_PKCS10Decode, ASN1_PKCS10RequestDecode,
+      ASN1_PKCS6_CertificateInfoDecode, ASN1_PKCS6_CertificateDecode, ASN1_PKCS7_Decode);
+  Add(table, {-7000, -1, -1, -7000, -7000, -1}, ASN1_CRL_RevokedCertificateDecode);
+  return table;
+}();
+
+// How many requests have failed, and of which functions.
+size_t failures = 0;
+std::set<AnyFunction> failed;
+
+// Fails each request of a call in turn. In the end the call leaves in use all that it requested, or
+// after a failure nothing.
+int32_t FailEachRequest(AnyFunction function, const LibraryCall& call, const Check& isAsBefore) {
+  const auto found = kCodes.find(function);
+  const Codes codes = found == kCodes.end() ? Codes{-1} : found->second;
+  for (size_t n = 1;; ++n) {
+    const int32_t code = CallFailing(n, call);
+    if (requests < n) {
+      EXPECT_EQ(blocks.size(), code < 0 ? 0 : requests);
+      return code;
+    }
+    EXPECT_EQ(code, codes[std::min(n, codes.size()) - 1]) << n;
+    EXPECT_EQ(blocks.size(), 0U) << n;
+    isAsBefore();
+    ++failures;
+    failed.insert(function);
   }
-  EXPECT_EQ(Watched(0, call), 0);
-  EXPECT_EQ(requests, n);
-  EXPECT_EQ(inUse, n);
 }
 
-// The same for a decoder: one request for the record, two for each of `nodes` nodes.
-template <typename Record>
-void SweepDecoder(int32_t (*decode)(const uint8_t*, uint32_t, Record**), void (*release)(Record*),
-                  const std::string& der, size_t nodes) {
-  const ByteVector bytes = FromHex(der);
-  Codes codes(1 + 2 * nodes, -1);
-  codes[0] = -7000;
-  Record* record = nullptr;
-  Sweep(codes, [&] { return decode(bytes.data(), Size(bytes), &record); });
-  release(record);
-}
-
-TEST(Allocation, DecodersMakeWhatTheyHandOutOrNothing) {
-  // The C library allocates for a zone when it first reads it.
-  setenv("TZ", "UTC0", 1);
-  tzset();
-  const std::string whole = "30 81 00 30 00 03 01 00 05 00";
-  SweepDecoder(ASN1_CertificateDecode, ASN1_FreeCertificate, "30 0A " + whole, 3);
-  SweepDecoder(ASN1_CRL_CertificateListDecode, ASN1_CRL_FreeCertificateList, "30 0A " + whole, 3);
-  SweepDecoder(ASN1_CRL_TbsCertListDecode, ASN1_CRL_FreeTbsCertList,
-               "30 1A 02 01 02 30 00 30 00 17 0D \"150101120000Z\" 30 00 A0 00", 4);
-  SweepDecoder(ASN1_PKCS10Decode, ASN1_FreePKCS10, "30 09 02 01 00 30 00 30 00 A0 00", 4);
-  SweepDecoder(ASN1_PKCS6_CertificateInfoDecode, ASN1_PKCS6_FreeExtendedCertificateInfo,
-               "30 07 02 01 00 30 00 31 00", 2);
-  SweepDecoder(ASN1_PKCS7_Decode, ASN1_PKCS7_FreeContext, "30 05 06 01 2A A0 00", 2);
-
-  const NodePtr tbs =
-      Sequence("A0 00 02 00 30 00 30 00 30 00 30 00 30 00 81 01 00 82 01 00 A3 02 30 00");
-  Codes codes(21, -1);
-  codes[0] = -7000;
-  TBSCertificate* record = nullptr;
-  Sweep(codes, [&] { return ASN1_TBSCertificateDecode(tbs.get(), &record); });
-  // A setter that fails leaves the field as it was.
-  const std::string issuer = Describe(record->issuer);
-  EXPECT_EQ(Watched(1, [&] { return ASN1_TBSCertificateSetIssuer(record, tbs.get()); }), -1);
-  EXPECT_EQ(Describe(record->issuer), issuer);
-  EXPECT_EQ(Watched(2, [&] { return ASN1_TBSCertificateSetVersion(record, 7); }), -1);
-  EXPECT_EQ(record->version, 0U);
-  ASN1_FreeTBSCertificate(record);
-
-  // The date of an entry is formatted, which has a code of its own.
-  const ByteVector entry = FromHex("30 13 02 00 17 0D \"150101120000Z\" 30 00");
-  RevokedCertificate* revoked = nullptr;
-  Sweep({-7000, -1, -1, -7000, -7000, -1, -1},
-        [&] { return ASN1_CRL_RevokedCertificateDecode(entry.data(), Size(entry), &revoked); });
-  ASN1_CRL_FreeRevokedCertificate(revoked);
-}
-
-TEST(Allocation, FailureGivesItsCodeAndLeavesNothing) {
-  const NodePtr extension = ToNode("30 0C 06 03 55 1D 13 01 01 FF 04 02 30 00");
-  Anybuf* out[3] = {};
-  Sweep({-1, -1, -1, -1, -1, -1},
-        [&] { return ASN1_GetExtension(extension.get(), &out[0], &out[1], &out[2]); });
-  for (Anybuf* node : out) ASN1_FreeAnybuf(node);
-  Sweep({-1, -1, -1, -1, -1, -1}, [&] { return ASN1_ReadSequence(extension.get(), &out[0]); });
-  ASN1_FreeAnybuf(out[0]);
-
-  // The OID node stays the caller's when its use fails.
-  const NodePtr oid = ToNode("06 01 2A");
-  for (const int n : {1, 2}) {
-    EXPECT_EQ(Watched(n,
-                      [&] {
-                        return ASN1_SetAlgorithmIdentifier(0, oid.get(), extension.get(), nullptr,
-                                                           &out[0]);
-                      }),
-              -1);
-    EXPECT_EQ(inUse, 0);
+class Allocation : public testing::Environment {
+  void SetUp() override { callHook = FailEachRequest; }
+  void TearDown() override {
+    std::cout << failures << " requests for memory failed, of " << failed.size() << " functions\n";
+    EXPECT_EQ(failed.size(), kFunctions);
   }
-  AttributeTypeAndValue* pair = nullptr;
-  Sweep({-7000, -7000, -7000, -7000, -7000},
-        [&] { return ASN1_SetAttributeTypeAndValue(extension.get(), extension.get(), &pair); });
-  ASN1_FreeAttributeTypeAndValue(pair);
-  ObjectID* objectId = nullptr;
-  Sweep({-7000, -7000}, [&] { return ASN1_ReadObjectId(extension.get(), &objectId); });
-  ASN1_FreeObjectID(objectId);
-}
+  static constexpr size_t kFunctions = 155;
+};
 
-// No block of the library's own ever holds a private value, so that none is left behind.
-TEST(Allocation, KeysGoFromBufferToBuffer) {
-  const ByteVector value(31, 0x80);
-  const ByteVector ec = FromHex("30 2B 02 00 30 00 04 25 30 23 02 00 04 1F 80*31");
-  ZantPrivateKey rsa;
-  std::fill_n(reinterpret_cast<uint8_t*>(&rsa), sizeof rsa, uint8_t{0x80});
-  EccPrikey key{};
-  Buffer der;
-  Buffer out;
-  Sweep({}, [&] {
-    int32_t code = ZantEncodePrivateKey(&rsa, der.Data(), &der.size);
-    code += ZantDecodePrivateKey(&rsa, der.Data(), static_cast<int32_t>(der.size));
-    code += ASN1_Der2EccPrikey(ec.data(), Size(ec), &key);
-    ASN1_SM2_PrikeyEncode(key.d, Size(value), der.Data(), &der.size);
-    ASN1_SM2_PrikeyDecode(out.Data(), &out.size, der.Data(), der.size);
-    return code;
-  });
-  EXPECT_EQ(out.Text(), ToHex(value.data(), value.size()));
-  EXPECT_EQ(rsa.coefficient[127], 0x80);
+const testing::Environment* const kAllocation = testing::AddGlobalTestEnvironment(new Allocation);
+
+// An entry that cannot be made ends the list; a block that cannot be made leaves its place empty.
+TEST(Inspection, KeepsWhatItCouldMake) {
+  X509Cert untouched{};
+  X509Cert* out = &untouched;
+  EXPECT_EQ(CallFailing(1, [&] { return X509CertCreate(&out) == nullptr ? 0 : 1; }), 0);
+  EXPECT_EQ(out, &untouched);
+
+  // The entries, identifiers and values that are there after each request in turn has failed.
+  constexpr size_t kMade[][3] = {{0, 0, 0}, {2, 1, 2}, {2, 2, 1}, {1, 1, 1},
+                                 {2, 1, 2}, {2, 2, 1}, {2, 2, 2}};
+  size_t n = 0;
+  for (const auto& [entries, identifiers, values] : kMade) {
+    const auto record = Inspect(
+        Sequence("31 08 30 06 06 01 2A 0C 01 41 | 31 09 30 07 06 01 2B 1E 02 00 42"), nullptr);
+    const auto call = [&] { return X509CertGetSubject(record.get()); };
+    EXPECT_EQ(CallFailing(++n, call), entries == 2 ? 0 : -1) << n;
+    EXPECT_EQ(blocks.size(), entries + identifiers + values) << n;
+    size_t made[3] = {};
+    for (const CertEntry* entry = record->subjectEntries; entry != nullptr; entry = entry->next) {
+      ++made[0];
+      made[1] += entry->oidLen;
+      made[2] += entry->valueLen;
+      EXPECT_EQ(entry->oid != nullptr, entry->oidLen != 0);
+      EXPECT_EQ(entry->value != nullptr, entry->valueLen != 0);
+    }
+    EXPECT_EQ(made[0], entries) << n;
+    EXPECT_EQ(made[1], identifiers) << n;
+    EXPECT_EQ(made[2], values) << n;
+  }
 }
 
 }  // namespace

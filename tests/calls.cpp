@@ -10,10 +10,6 @@ uint32_t Number(const std::string& text) {
   return static_cast<uint32_t>(std::stoll(text, nullptr, 0));
 }
 
-void ExpectKept(const std::string& results) {
-  EXPECT_EQ(results.find_first_not_of("kept ;"), std::string::npos) << results;
-}
-
 // The code of a failure, which must leave all out arguments alone, or the results, after a code
 // above 0 when there is one.
 template <typename Function>
@@ -110,21 +106,30 @@ Caller Mapping(uint32_t (*function)(uint32_t)) {
   return [=](const Arguments& in) { return std::to_string(function(Number(in[0]))); };
 }
 
+size_t NodeCount(const Anybuf* chain) {
+  size_t count = 0;
+  for (; chain != nullptr; chain = chain->next) ++count;
+  return count;
+}
+
 // Appends an element twice. An appended node carries `memKind` over and has no `prev`.
 Caller Adder(void (*add)(const Anybuf*, Anybuf*)) {
   return [=](const Arguments& in) {
     const NodePtr element = ToNode(in[0]);
     const NodePtr chain = ToNode(in[1]);
     if (element != nullptr) element->memKind = 9;
-    size_t before = 0;
+    const size_t before = NodeCount(chain.get());
     size_t position = 1;
-    for (const Anybuf* node = chain.get(); node != nullptr; node = node->next) ++before;
-    add(element.get(), chain.get());
-    add(element.get(), chain.get());
+    const auto append = [&] {
+      add(element.get(), chain.get());
+      return 0;
+    };
+    CallLibrary(add, append, [&] { EXPECT_EQ(NodeCount(chain.get()), before); });
+    append();
     for (Anybuf* node = chain.get(); node != nullptr && node->next != nullptr; node = node->next) {
       const bool appended = position++ >= before;
       EXPECT_EQ(node->next->memKind, appended ? 9U : 2U);
-      EXPECT_EQ(node->next->prev, nullptr);
+      EXPECT_EQ(node->next->prev, appended ? nullptr : node);
       node->next->memKind = 2;
       node->next->prev = node;
     }
@@ -135,7 +140,9 @@ Caller Adder(void (*add)(const Anybuf*, Anybuf*)) {
 std::string LowIntToChar(const Arguments& in) {
   uint8_t* octets = nullptr;
   uint32_t* count = nullptr;
-  EXPECT_EQ(Asn1LowIntToChar(Number(in[0]), &octets, &count), 0);
+  const auto isUntouched = [&] { EXPECT_TRUE(octets == nullptr && count == nullptr); };
+  const auto call = [&] { return Asn1LowIntToChar(Number(in[0]), &octets, &count); };
+  EXPECT_EQ(CallLibrary(Asn1LowIntToChar, call, isUntouched), 0);
   const std::string text = ToHex(octets, *count);
   std::free(octets);
   std::free(count);
@@ -157,33 +164,43 @@ std::string TextToObjectId(const Arguments& in) {
 std::string ReadAndWriteObjectId(const Arguments& in) {
   ObjectID untouched{};
   ObjectID* record = &untouched;
-  const int32_t code = ASN1_ReadObjectId(ToNode(in[0]).get(), &record);
+  const NodePtr source = ToNode(in[0]);
+  const auto isUntouched = [&] { EXPECT_EQ(record, &untouched); };
+  const auto call = [&] { return ASN1_ReadObjectId(source.get(), &record); };
+  const int32_t code = CallLibrary(ASN1_ReadObjectId, call, isUntouched);
   if (code != 0) {
-    EXPECT_EQ(record, &untouched);
+    isUntouched();
     return std::to_string(code);
   }
   EXPECT_EQ(record->id, 0);
   const Anybuf node = {record->data,     record->dataLen, record->unusedBits, record->memKind,
                        record->dataType, record->next,    record->prev};
-  const std::string written = Made([&](Anybuf** out) { return ASN1_WriteObjectId(record, out); });
+  const std::string written = Made(ASN1_WriteObjectId, record);
   const std::string text = Describe(&node) + " ; " + written;
   ASN1_FreeObjectID(record);
   return text;
 }
 
+int32_t ReadImplicitNode(const Anybuf* source, uint32_t* number, Anybuf** out) {
+  return ASN1_ReadImplicit(source, out, number);
+}
+
 std::string ReadImplicit(const Arguments& in) {
   uint32_t number = 99;
-  const std::string node =
-      Made([&](Anybuf** out) { return ASN1_ReadImplicit(ToNode(in[0]).get(), out, &number); });
+  const NodePtr source = ToNode(in[0]);
+  const std::string node = Made(ReadImplicitNode, source.get(), &number);
   return std::to_string(number) + " ; " + node;
 }
 
 std::string SetAttribute(const Arguments& in) {
   AttributeTypeAndValue* record = nullptr;
-  EXPECT_EQ(ASN1_SetAttributeTypeAndValue(ToNode(in[0]).get(), ToNode(in[1]).get(), &record), 0);
-  const std::string text =
-      Describe(record->type) + " ; " + Describe(record->value) + " ; " +
-      Made([&](Anybuf** out) { return ASN1_GetDerAttributeTypeAndValue(record, out); });
+  const NodePtr type = ToNode(in[0]);
+  const NodePtr value = ToNode(in[1]);
+  const auto call = [&] { return ASN1_SetAttributeTypeAndValue(type.get(), value.get(), &record); };
+  const auto isUntouched = [&] { EXPECT_EQ(record, nullptr); };
+  EXPECT_EQ(CallLibrary(ASN1_SetAttributeTypeAndValue, call, isUntouched), 0);
+  const std::string text = Describe(record->type) + " ; " + Describe(record->value) + " ; " +
+                           Made(ASN1_GetDerAttributeTypeAndValue, record);
   ASN1_FreeAttributeTypeAndValue(record);
   return text;
 }
@@ -191,10 +208,10 @@ std::string SetAttribute(const Arguments& in) {
 // What becomes of the OID node is seen by whether freeing it here is right.
 std::string SetAlgorithm(const Arguments& in) {
   Anybuf* oid = ToNode(in[1]).release();
-  const std::string made = Made([&](Anybuf** out) {
-    return ASN1_SetAlgorithmIdentifier(Number(in[0]), oid, ToNode(in[2]).get(), ToNode(in[3]).get(),
-                                       out);
-  });
+  const NodePtr algorithm = ToNode(in[2]);
+  const NodePtr parameter = ToNode(in[3]);
+  const std::string made =
+      Made(ASN1_SetAlgorithmIdentifier, Number(in[0]), oid, algorithm.get(), parameter.get());
   if (in[4] == "released") return made;
   const NodePtr stillOurs(oid);
   return made + " ; " + Describe(oid);

@@ -2,7 +2,6 @@
 #ifndef VELKORD_TESTS_CALLS_H_
 #define VELKORD_TESTS_CALLS_H_
 
-#include <functional>
 #include <map>
 
 #include "invocation.h"
@@ -11,6 +10,13 @@ using Callers = std::map<std::string, std::function<std::string(const Arguments&
 
 extern const Callers kInspectionCallers;
 extern const Callers kRecordCallers;
+
+// The decoder of a SEQUENCE's bytes, which the library has for a node.
+int32_t DecodeTbsCertificate(const uint8_t* bytes, uint32_t length, TBSCertificate** out);
+
+// An inspection record over a subject and extensions.
+using InspectionPtr = std::unique_ptr<X509Cert, FreeWith<X509CertFree>>;
+InspectionPtr Inspect(NodePtr subject, NodePtr extensions);
 
 // The results of a call, or its code. Nodes and bytes are written as in `hex.h`, text as it stands
 // and numbers in decimal or with 0x.

@@ -38,6 +38,8 @@ ByteVector FromHex(const std::string& hex) {
     const size_t count = octet.size() > 3 ? std::stoul(octet.substr(3)) : 1;
     bytes.insert(bytes.end(), count, static_cast<uint8_t>(std::stoul(octet, nullptr, 16)));
   }
+  // No spare room behind them, where a read past the end would go unseen.
+  bytes.shrink_to_fit();
   return bytes;
 }
 
@@ -57,6 +59,7 @@ NodePtr ToNode(const std::string& text) {
   if (const size_t bar = text.find(" | "); bar != std::string::npos) {
     NodePtr head = ToNode(text.substr(0, bar));
     head->next = ToNode(text.substr(bar + 3)).release();
+    head->next->prev = head.get();
     return head;
   }
   const size_t colon = text.find(": ");

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "Velkord.h"
+#include "library_call.h"
 
 using ByteVector = std::vector<uint8_t>;
 
@@ -46,15 +47,17 @@ inline std::string Hex(const NodePtr& node) { return ToHex(node->data, node->dat
 // A chain as text, its nodes as above with " | " between them.
 std::string Describe(const Anybuf* chain);
 
-// What a call that makes a node gives: the node as text, or its code. A failing call must leave the
-// out pointer alone.
-template <typename Call>
-std::string Made(Call call) {
+// What a function that makes a node gives, its out pointer being the last argument: the node as
+// text, or its code. A failing call must leave the out pointer alone.
+template <typename... Parameters, typename... In>
+std::string Made(int32_t (*function)(Parameters...), In... in) {
   Anybuf untouched{};
   Anybuf* node = &untouched;
-  const int32_t code = call(&node);
+  const auto isUntouched = [&] { EXPECT_EQ(node, &untouched); };
+  const int32_t code = CallLibrary(
+      function, [&] { return function(in..., &node); }, isUntouched);
   if (code == 0) return Describe(NodePtr(node).get());
-  EXPECT_EQ(node, &untouched);
+  isUntouched();
   return std::to_string(code);
 }
 

@@ -1,11 +1,6 @@
 // Calls of certificate inspection.
 #include "calls.h"
 
-namespace {
-
-using InspectionPtr = std::unique_ptr<X509Cert, FreeWith<X509CertFree>>;
-
-// An inspection record over a subject and extensions.
 InspectionPtr Inspect(NodePtr subject, NodePtr extensions) {
   InspectionPtr record(X509CertCreate(nullptr));
   EXPECT_EQ(ASN1_CreateTBSCertificate(&record->tbs), 0);
@@ -13,6 +8,8 @@ InspectionPtr Inspect(NodePtr subject, NodePtr extensions) {
   record->tbs->extensions = extensions.release();
   return record;
 }
+
+namespace {
 
 // The entries after a second call, which appends them all once more.
 std::string ListSubject(const Arguments& in) {

@@ -9,6 +9,13 @@ const char* Invocation::Take(const char**) {
   return text.c_str();
 }
 
+std::string Invocation::Inputs() const {
+  std::string text;
+  for (const NodePtr& node : nodes_) text += Describe(node.get());
+  for (const ByteVector& bytes : bytes_) text.append(bytes.begin(), bytes.end());
+  return text;
+}
+
 std::string Invocation::Results() {
   std::string text;
   for (Out& out : outs_) {

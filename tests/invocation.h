@@ -12,20 +12,32 @@
 
 using Arguments = std::vector<std::string>;
 
+// Expects that all out arguments were left alone.
+inline void ExpectKept(const std::string& results) {
+  EXPECT_EQ(results.find_first_not_of("kept ;"), std::string::npos) << results;
+}
+
 class Invocation {
  public:
   // With the out argument of number `nulled` a null pointer.
   explicit Invocation(const Arguments& in, size_t nulled = SIZE_MAX) : in_(in), nulled_(nulled) {}
 
+  // Gives the code of the function, 0 for one without. Its inputs must stay as they are.
   template <typename Result, typename... Parameters>
   int32_t Run(Result (*function)(Parameters...)) {
     std::tuple<Parameters...> arguments{Take(static_cast<Parameters*>(nullptr))...};
-    if constexpr (std::is_void_v<Result>) {
-      std::apply(function, arguments);
-      return 0;
-    } else {
-      return static_cast<int32_t>(std::apply(function, arguments));
-    }
+    const std::string inputs = Inputs();
+    const auto call = [&] {
+      if constexpr (std::is_void_v<Result>) {
+        std::apply(function, arguments);
+        return 0;
+      } else {
+        return static_cast<int32_t>(std::apply(function, arguments));
+      }
+    };
+    const int32_t code = CallLibrary(function, call, [this] { ExpectKept(Results()); });
+    EXPECT_EQ(Inputs(), inputs);
+    return code;
   }
 
   // Number of out arguments, sizes of buffers among them.
@@ -47,6 +59,8 @@ class Invocation {
   };
 
   static constexpr int32_t kUntouchedInteger = 99;
+
+  std::string Inputs() const;
 
   bool NextIsNulled() { return outCount_++ == nulled_; }
 

@@ -1,0 +1,24 @@
+// How the tests call the library: plainly, unless a program puts another way in place that makes
+// the same call several times, as the one that lets requests for memory fail does.
+#ifndef VELKORD_TESTS_LIBRARY_CALL_H_
+#define VELKORD_TESTS_LIBRARY_CALL_H_
+
+#include <cstdint>
+#include <functional>
+
+// Stands for a function of any type.
+using AnyFunction = void (*)();
+using LibraryCall = std::function<int32_t()>;
+using Check = std::function<void()>;
+
+inline int32_t (*callHook)(AnyFunction, const LibraryCall&, const Check&) =
+    [](AnyFunction, const LibraryCall& call, const Check&) { return call(); };
+
+// Gives the code of `call`, which calls `function`. After a call that failed for want of memory
+// `isAsBefore` expects that nothing has changed.
+template <typename Function>
+int32_t CallLibrary(Function* function, const LibraryCall& call, const Check& isAsBefore) {
+  return callHook(reinterpret_cast<AnyFunction>(function), call, isAsBefore);
+}
+
+#endif  // VELKORD_TESTS_LIBRARY_CALL_H_
