@@ -10,6 +10,10 @@ if(VELKORD_SANITIZE)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
+if(VELKORD_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+
 function(velkord_strict target)
   target_compile_options(${target} PRIVATE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wcast-align -Werror)
