@@ -62,9 +62,13 @@ int32_t DecodeTbsCertificate(const uint8_t* bytes, uint32_t length, TBSCertifica
   return ASN1_TBSCertificateDecode(MakeNode({bytes, length}).get(), out);
 }
 
-// The extensions stand in a SEQUENCE for their `[3]`; a unique identifier gains an octet with each
-// pass.
+// Of a tag of several octets the first alone is written, and what follows it then reads otherwise.
+bool HasLongTag(const Anybuf& node) { return (node.data[0] & 0x1F) == 0x1F; }
+
+// The version may have any tag; the extensions stand in a SEQUENCE for their `[3]`; a unique
+// identifier gains an octet with each pass.
 void RestoreTbsCertificate(TBSCertificate* record) {
+  if (HasLongTag(*record->versionNode)) REQUIRE(ASN1_TBSCertificateSetVersion(record, 2) == 0);
   record->hasIssuerUniqueID = 0;
   record->hasSubjectUniqueID = 0;
   if (record->hasExtensions == 0) return;
@@ -77,7 +81,8 @@ void RestoreRequestInfo(PKCS10* record) {
   if (record->attributes == nullptr) return;
   Anybuf* attributes = nullptr;
   uint32_t tag = 0;
-  if (ASN1_ReadImplicit(record->attributes, &attributes, &tag) != 0) {
+  if (HasLongTag(*record->attributes) ||
+      ASN1_ReadImplicit(record->attributes, &attributes, &tag) != 0) {
     ASN1_FreeAnybuf(std::exchange(record->attributes, nullptr));
   }
   ASN1_FreeAnybuf(attributes);

@@ -68,7 +68,15 @@ std::vector<Case> LoadCases(const std::filesystem::path& path) {
   return cases;
 }
 
-void SetZone(const std::string& zone) { setenv("TZ", zone.empty() ? "UTC0" : zone.c_str(), 1); }
+void SetZone(const std::string& zone) {
+  const std::string text = zone.empty() ? "UTC0" : zone;
+#if defined(_WIN32)
+  _putenv_s("TZ", text.c_str());
+  _tzset();
+#else
+  setenv("TZ", text.c_str(), 1);
+#endif
+}
 
 void RunCase(const Case& oneCase) {
   for (const std::string& function : oneCase.functions) {
