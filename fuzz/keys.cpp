@@ -31,13 +31,11 @@ auto FirstOctet(Field field) {
   return std::find_if(field.begin(), field.end(), [](uint8_t octet) { return octet != 0; });
 }
 
-// A private key whose second element, the modulus, has 13 octets of content is taken for one of
-// PKCS#8.
+// A private key whose second element, the modulus, has 13 octets is taken for one of PKCS#8.
 bool IsTakenForWrapped(const ZantPublicKey&) { return false; }
 bool IsTakenForWrapped(ZantPrivateKey key) {
   const Field modulus(key.modulus);
-  const auto first = FirstOctet(modulus);
-  return first != modulus.end() && modulus.end() - first + (*first >= 0x80 ? 1 : 0) == 13;
+  return modulus.end() - FirstOctet(modulus) == 13;
 }
 
 template <typename Key>
