@@ -43,11 +43,11 @@ uint32_t ImpliedUnusedBits(Bytes bits) {
   return last < 2 || last > 0x80 ? 0 : static_cast<uint32_t>(std::bit_width(last - 1));
 }
 
-DerHeader::DerHeader(uint8_t tag, uint64_t contentLength) {
+DerHeader::DerHeader(uint8_t tag, uint64_t contentLength) : total_(contentLength) {
   // A length beyond 32 bits is refused by whoever makes the element, which is never smaller.
   const uint8_t* end = PutHeader(octets_, tag, static_cast<uint32_t>(contentLength));
   size_ = static_cast<size_t>(end - octets_);
-  total_ = size_ + contentLength;
+  total_ += size_;
 }
 
 DerHeader DerHeader::ForBitString(uint32_t unusedBits, uint64_t bitsLength) {

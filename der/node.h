@@ -65,7 +65,7 @@ class DerHeader {
   uint64_t Total() const { return total_; }
 
  private:
-  uint8_t octets_[7];
+  uint8_t octets_[7] = {};
   size_t size_ = 0;
   uint64_t total_;
 };

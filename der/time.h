@@ -16,7 +16,7 @@ class TimeElement {
   Bytes Whole() const { return {octets_, size_}; }
 
  private:
-  uint8_t octets_[17];
+  uint8_t octets_[17] = {};
   size_t size_ = 0;
 };
 

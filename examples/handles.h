@@ -39,6 +39,7 @@ class Out {
   Out(const Out&) = delete;
   Out& operator=(const Out&) = delete;
 
+  // NOLINTNEXTLINE(google-explicit-constructor): it stands where the out pointer does.
   operator typename Handle::pointer *() { return &object_; }
 
  private:

@@ -74,7 +74,7 @@ SecretBytes ReadFile(const char* name) {
   const auto fail = [] {
     throw std::runtime_error("cannot be read: " + std::generic_category().message(errno));
   };
-  const auto close = [](std::FILE* file) { std::fclose(file); };
+  const auto close = [](std::FILE* file) { static_cast<void>(std::fclose(file)); };
   const std::unique_ptr<std::FILE, decltype(close)> file(std::fopen(name, "rb"));
   if (file == nullptr || std::setvbuf(file.get(), nullptr, _IONBF, 0) != 0) fail();
   SecretBytes content;

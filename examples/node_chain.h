@@ -18,6 +18,7 @@ class NodeChain {
     } else {
       last_->next = node.release();
     }
+    // cppcheck-suppress danglingLifetime ; the node lives on in the chain.
     last_ = added;
   }
 

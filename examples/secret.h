@@ -34,6 +34,7 @@ using SecretBytes = std::vector<uint8_t, WipingAllocator<uint8_t>>;
 // A record of the library's that holds no pointers.
 template <typename Record>
 struct Secret : Record {
+  // cppcheck-suppress uninitDerivedMemberVar ; the library fills it.
   Secret() = default;
   ~Secret() { explicit_bzero(static_cast<Record*>(this), sizeof(Record)); }
   Secret(const Secret&) = delete;

@@ -9,6 +9,8 @@
 
 namespace velkord {
 
+// NOLINTBEGIN(cppcoreguidelines-no-malloc,cppcoreguidelines-owning-memory): here, and nowhere else.
+
 // A request for no bytes gives a usable block.
 inline uint8_t* AllocateBytes(size_t size) {
   return static_cast<uint8_t*>(std::malloc(size == 0 ? 1 : size));
@@ -21,6 +23,8 @@ Record* AllocateZeroed() {
 }
 
 inline void Release(void* block) { std::free(block); }
+
+// NOLINTEND(cppcoreguidelines-no-malloc,cppcoreguidelines-owning-memory)
 
 }  // namespace velkord
 

@@ -30,7 +30,8 @@ struct Optional {
 };
 
 // The optional elements by their tag numbers.
-using Optionals = std::array<Optional, kExtensionsTag + 1>;
+constexpr size_t kTagNumbers = kExtensionsTag + 1;
+using Optionals = std::array<Optional, kTagNumbers>;
 
 // The bits of a unique identifier: of a constructed element its first inner element as it stands.
 int32_t OpenUniqueId(const DerElement& element, Bytes& bits) {
