@@ -2,6 +2,9 @@
 
 namespace velkord {
 
+// Contents too long for a test to make.
+static_assert(DerLengthSize(0xFFFFFF) == 4 && DerLengthSize(0x1000000) == 5);
+
 int32_t DerParseTag(Bytes& in, uint32_t& tag) {
   if (in.empty()) return VELKORD_SIZE_MISMATCH;
   const uint8_t first = in[0];
