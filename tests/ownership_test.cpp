@@ -13,7 +13,7 @@ TEST(Nodes, MayBeReadInPlaceAndKeepTheirNeighbours) {
 
   Anybuf* oid = ToNode("06 01 2A | 30 00").release();
   const NodePtr parameter(oid->next);
-  EXPECT_EQ(Made(ASN1_SetAlgorithmIdentifier, 0, oid, nullptr, parameter.get()),
+  EXPECT_EQ(Made(ASN1_SetAlgorithmIdentifier, 0U, oid, nullptr, parameter.get()),
             "16: 30 05 06 01 2A 30 00");
   EXPECT_EQ(ToHex(parameter->data, parameter->dataLen), "30 00");
 }
