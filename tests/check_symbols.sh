@@ -1,19 +1,19 @@
 #!/usr/bin/env bash
 # Compares the names that a library exports with a list of names, and the libraries that it needs
-# with the C library, on Windows the system's kernel as well. Usage: check_symbols.sh LIBRARY NAMES
+# with the C library, on Windows the system's kernel as well. Usage: check_symbols.sh LIBRARY NAMES OBJDUMP
 set -euo pipefail
 export LC_ALL=C
 
 case $1 in
   *.dll)
-    headers=$(i686-w64-mingw32-objdump -p "$1")
+    headers=$("$3" -p "$1")
     names=$(sed -n '/^\[Ordinal\/Name Pointer\] Table/,/^$/s/^\t\[ *[0-9]*\] //p' <<<"$headers")
     needed=$(sed -n 's/^\tDLL Name: //p' <<<"$headers")
     allowed=$'KERNEL32.dll\nmsvcrt.dll'
     ;;
   *)
     names=$(nm -D --defined-only --format=posix "$1" | cut -d ' ' -f 1)
-    needed=$(readelf -d "$1" | sed -n 's/.*(NEEDED).*\[\(.*\)\]/\1/p')
+    needed=$("$3" -p "$1" | sed -n 's/.*NEEDED *//p')
     allowed=libc.so.6
     ;;
 esac
