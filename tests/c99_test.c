@@ -34,6 +34,8 @@ int main(void) {
   CHECK(ASN1_WriteSequence(chain, &sequence) == VELKORD_OK && sequence->dataLen == 32);
   CHECK(ASN1_WriteExplicit(NULL, 0, &chain) == VELKORD_NULL_ARGUMENT);
   CHECK(ASN1_CreateName(NULL, &chain) == VELKORD_NULL_ARGUMENT);
+  CHECK(ASN1_GetDerRelativeDistinguishedNameOne(chain, 0, NULL, 1, &sequence) ==
+        VELKORD_NULL_ARGUMENT);
   CHECK(ASN1_GetValidity(sequence, NULL, NULL) == VELKORD_NULL_ARGUMENT);
   CHECK(ASN1_GetExtensionOne(0, der, 3, 0xFF, der, 2, &extension) == VELKORD_OK);
   CHECK(ASN1_CreateTBSCertificate(&tbs) == VELKORD_OK);

@@ -19,9 +19,10 @@ Caller Lenient(Function function) {
     const int32_t code = call.Run(function);
     const std::string results = call.Results();
     if (call.OutCount() == 0) return std::to_string(code);
-    if (code < 0) ExpectKept(results);
-    if (code < 0) return std::to_string(code);
-    return code == 0 ? results : std::to_string(code) + " ; " + results;
+    if (code == 0) return results;
+    if (code > 0) return std::to_string(code) + " ; " + results;
+    ExpectKept(results);
+    return std::to_string(code);
   };
 }
 
@@ -142,6 +143,8 @@ std::string LowIntToChar(const Arguments& in) {
   uint32_t* count = nullptr;
   const auto isUntouched = [&] { EXPECT_TRUE(octets == nullptr && count == nullptr); };
   const auto call = [&] { return Asn1LowIntToChar(Number(in[0]), &octets, &count); };
+  EXPECT_EQ(Asn1LowIntToChar(1, &octets, nullptr), VELKORD_NULL_ARGUMENT);
+  EXPECT_EQ(Asn1LowIntToChar(1, nullptr, &count), VELKORD_NULL_ARGUMENT);
   EXPECT_EQ(CallLibrary(Asn1LowIntToChar, call, isUntouched), 0);
   const std::string text = ToHex(octets, *count);
   std::free(octets);
@@ -154,6 +157,9 @@ std::string TextToObjectId(const Arguments& in) {
   const std::string text = in.empty() ? "" : in[0];
   uint8_t out[32] = {};
   uint32_t length = 99;
+  EXPECT_EQ(ASN1_OBJECT_a2d(nullptr, &length, "1.2", 3), 0);
+  EXPECT_EQ(ASN1_OBJECT_a2d(out, nullptr, "1.2", 3), 0);
+  EXPECT_EQ(ASN1_OBJECT_a2d(out, &length, nullptr, 3), 0);
   const int32_t result =
       ASN1_OBJECT_a2d(out, &length, text.data(), static_cast<int32_t>(text.size()));
   return std::to_string(result) + " " + std::to_string(length) + ": " +
@@ -167,14 +173,13 @@ std::string ReadAndWriteObjectId(const Arguments& in) {
   const NodePtr source = ToNode(in[0]);
   const auto isUntouched = [&] { EXPECT_EQ(record, &untouched); };
   const auto call = [&] { return ASN1_ReadObjectId(source.get(), &record); };
+  EXPECT_EQ(ASN1_ReadObjectId(source.get(), nullptr), VELKORD_NULL_ARGUMENT);
   const int32_t code = CallLibrary(ASN1_ReadObjectId, call, isUntouched);
-  if (code != 0) {
-    isUntouched();
-    return std::to_string(code);
-  }
+  if (code != 0) return std::to_string(code);
   EXPECT_EQ(record->id, 0);
   const Anybuf node = {record->data,     record->dataLen, record->unusedBits, record->memKind,
                        record->dataType, record->next,    record->prev};
+  EXPECT_EQ(Made(ASN1_WriteObjectId, nullptr), "-8");
   const std::string written = Made(ASN1_WriteObjectId, record);
   const std::string text = Describe(&node) + " ; " + written;
   ASN1_FreeObjectID(record);
@@ -188,6 +193,8 @@ int32_t ReadImplicitNode(const Anybuf* source, uint32_t* number, Anybuf** out) {
 std::string ReadImplicit(const Arguments& in) {
   uint32_t number = 99;
   const NodePtr source = ToNode(in[0]);
+  EXPECT_EQ(ASN1_ReadImplicit(source.get(), nullptr, &number), VELKORD_NULL_ARGUMENT);
+  EXPECT_EQ(Made(ReadImplicitNode, source.get(), nullptr), "-8");
   const std::string node = Made(ReadImplicitNode, source.get(), &number);
   return std::to_string(number) + " ; " + node;
 }
@@ -198,7 +205,10 @@ std::string SetAttribute(const Arguments& in) {
   const NodePtr value = ToNode(in[1]);
   const auto call = [&] { return ASN1_SetAttributeTypeAndValue(type.get(), value.get(), &record); };
   const auto isUntouched = [&] { EXPECT_EQ(record, nullptr); };
-  EXPECT_EQ(CallLibrary(ASN1_SetAttributeTypeAndValue, call, isUntouched), 0);
+  EXPECT_EQ(ASN1_SetAttributeTypeAndValue(type.get(), value.get(), nullptr), VELKORD_NULL_ARGUMENT);
+  EXPECT_EQ(Made(ASN1_GetDerAttributeTypeAndValue, nullptr), "-8");
+  const int32_t code = CallLibrary(ASN1_SetAttributeTypeAndValue, call, isUntouched);
+  if (code != 0) return std::to_string(code);
   const std::string text = Describe(record->type) + " ; " + Describe(record->value) + " ; " +
                            Made(ASN1_GetDerAttributeTypeAndValue, record);
   ASN1_FreeAttributeTypeAndValue(record);
@@ -210,6 +220,7 @@ std::string SetAlgorithm(const Arguments& in) {
   Anybuf* oid = ToNode(in[1]).release();
   const NodePtr algorithm = ToNode(in[2]);
   const NodePtr parameter = ToNode(in[3]);
+  EXPECT_EQ(ASN1_SetAlgorithmIdentifier(1, oid, nullptr, nullptr, nullptr), VELKORD_NULL_ARGUMENT);
   const std::string made =
       Made(ASN1_SetAlgorithmIdentifier, Number(in[0]), oid, algorithm.get(), parameter.get());
   if (in[4] == "released") return made;

@@ -53,12 +53,9 @@ template <typename... Parameters, typename... In>
 std::string Made(int32_t (*function)(Parameters...), In... in) {
   Anybuf untouched{};
   Anybuf* node = &untouched;
-  const auto isUntouched = [&] { EXPECT_EQ(node, &untouched); };
   const int32_t code = CallLibrary(
-      function, [&] { return function(in..., &node); }, isUntouched);
-  if (code == 0) return Describe(NodePtr(node).get());
-  isUntouched();
-  return std::to_string(code);
+      function, [&] { return function(in..., &node); }, [&] { EXPECT_EQ(node, &untouched); });
+  return code == 0 ? Describe(NodePtr(node).get()) : std::to_string(code);
 }
 
 // A caller's buffer, larger than any case fills it.

@@ -14,6 +14,10 @@ namespace {
 // The entries after a second call, which appends them all once more.
 std::string ListSubject(const Arguments& in) {
   const auto record = Inspect(ToNode(in[0]), nullptr);
+  EXPECT_EQ(X509CertGetSubject(nullptr), VELKORD_NULL_ARGUMENT);
+  EXPECT_EQ(X509CertGetSubject(Inspect(nullptr, nullptr).get()), VELKORD_NULL_ARGUMENT);
+  EXPECT_EQ(X509CertGetSubject(InspectionPtr(X509CertCreate(nullptr)).get()),
+            VELKORD_NULL_ARGUMENT);
   EXPECT_EQ(X509CertGetSubject(record.get()), 0);
   EXPECT_EQ(X509CertGetSubject(record.get()), 0);
   std::string text;
@@ -34,6 +38,12 @@ std::string LookUp(const Arguments& in) {
   EXPECT_TRUE(code == 0 || out.Text() == "kept");
   EXPECT_EQ(X509CertGetOIDValue(record.get(), in[0].data(), 0, nullptr, &out.size), -1);
   EXPECT_EQ(X509CertGetOIDValue(record.get(), in[0].data(), 0, out.Data(), nullptr), -1);
+  EXPECT_EQ(X509CertGetOIDValue(nullptr, in[0].data(), 0, out.Data(), &out.size), -8);
+  EXPECT_EQ(X509CertGetOIDValue(InspectionPtr(X509CertCreate(nullptr)).get(), in[0].data(), 0,
+                                out.Data(), &out.size),
+            -8);
+  EXPECT_EQ(X509CertGetOIDValue(record.get(), nullptr, 1, out.Data(), &out.size),
+            in[1] == "none" ? -1 : -8);
   return code == 0 ? out.Text() : std::to_string(code);
 }
 

@@ -14,11 +14,13 @@ using Check = std::function<void()>;
 inline int32_t (*callHook)(AnyFunction, const LibraryCall&, const Check&) =
     [](AnyFunction, const LibraryCall& call, const Check&) { return call(); };
 
-// Gives the code of `call`, which calls `function`. After a call that failed for want of memory
-// `isAsBefore` expects that nothing has changed.
+// Gives the code of `call`, which calls `function`. After a failure `isAsBefore` expects that
+// nothing has changed.
 template <typename Function>
 int32_t CallLibrary(Function* function, const LibraryCall& call, const Check& isAsBefore) {
-  return callHook(reinterpret_cast<AnyFunction>(function), call, isAsBefore);
+  const int32_t code = callHook(reinterpret_cast<AnyFunction>(function), call, isAsBefore);
+  if (code < 0) isAsBefore();
+  return code;
 }
 
 #endif  // VELKORD_TESTS_LIBRARY_CALL_H_

@@ -34,49 +34,6 @@ TEST(Sizes, BeyondTheirWidthAreRefused) {
   EXPECT_EQ(ZantDecodePrivateKey(&privateKey, &byte, INT32_MIN), -1);
 }
 
-// The functions that no case can call with a null pointer in each place.
-TEST(Nulls, AreRefused) {
-  const NodePtr node = ToNode("06 01 2A");
-  Anybuf* source = node.get();
-  Anybuf* made = nullptr;
-  uint8_t* bytes = nullptr;
-  uint8_t byte = 0;
-  uint32_t number = 7;
-  AttributeTypeAndValue* attribute = nullptr;
-  std::vector<int32_t> codes = {
-      Asn1LowIntToChar(1, nullptr, nullptr),
-      Asn1LowIntToChar(1, &bytes, nullptr),
-      ASN1_ReadObjectId(nullptr, nullptr),
-      ASN1_ReadObjectId(source, nullptr),
-      ASN1_WriteObjectId(nullptr, &made),
-      ASN1_ReadImplicit(nullptr, &made, &number),
-      ASN1_ReadImplicit(source, nullptr, &number),
-      ASN1_ReadImplicit(source, &made, nullptr),
-      ASN1_SetAttributeTypeAndValue(nullptr, source, &attribute),
-      ASN1_SetAttributeTypeAndValue(source, nullptr, &attribute),
-      ASN1_SetAttributeTypeAndValue(source, source, nullptr),
-      ASN1_GetDerAttributeTypeAndValue(nullptr, &made),
-      ASN1_SetAlgorithmIdentifier(1, nullptr, nullptr, nullptr, &made),
-      ASN1_SetAlgorithmIdentifier(1, source, nullptr, nullptr, nullptr),
-      ASN1_GetDerRelativeDistinguishedNameOne(source, 0, nullptr, 1, &made),
-      X509CertGetSubject(nullptr),
-      X509CertGetOIDValue(nullptr, "1", 1, &byte, &number)};
-  X509Cert empty{};
-  TBSCertificate tbs{};
-  codes.push_back(X509CertGetSubject(&empty));
-  codes.push_back(X509CertGetOIDValue(&empty, "1", 1, &byte, &number));
-  empty.tbs = &tbs;
-  codes.push_back(X509CertGetSubject(&empty));
-  tbs.extensions = source;
-  codes.push_back(X509CertGetOIDValue(&empty, nullptr, 1, &byte, &number));
-  EXPECT_EQ(codes, std::vector<int32_t>(codes.size(), VELKORD_NULL_ARGUMENT));
-  EXPECT_EQ(ASN1_OBJECT_a2d(nullptr, &number, "1.2", 3), 0);
-  EXPECT_EQ(ASN1_OBJECT_a2d(&byte, nullptr, "1.2", 3), 0);
-  EXPECT_EQ(ASN1_OBJECT_a2d(&byte, &number, nullptr, 3), 0);
-  EXPECT_TRUE(made == nullptr && bytes == nullptr && attribute == nullptr && number == 7);
-  ASN1_FreeObjectID(nullptr);
-}
-
 TEST(Inspection, RecordOwnsWhatItsFieldsHold) {
   X509Cert* record = nullptr;
   EXPECT_EQ(X509CertCreate(&record), record);

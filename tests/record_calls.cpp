@@ -107,9 +107,7 @@ std::string Apply(const RecordKind<Record>& kind, Record* record, const std::str
   const auto isAsBefore = [&] { EXPECT_EQ(Fields(kind, *record), before); };
   EXPECT_EQ(setter->second(nullptr, value, isAsBefore), VELKORD_NULL_ARGUMENT);
   const int32_t code = setter->second(record, value, isAsBefore);
-  if (code == 0) return "";
-  isAsBefore();
-  return std::to_string(code) + " ; ";
+  return code == 0 ? "" : std::to_string(code) + " ; ";
 }
 
 template <typename Record>
@@ -145,10 +143,7 @@ Callers::mapped_type Decoder(const RecordKind<Record>& kind) {
     const auto isUntouched = [&] { EXPECT_EQ(record, &untouched); };
     const auto call = [&] { return kind.decode(bytes.data(), Size(bytes), &record); };
     const int32_t code = CallLibrary(kind.decode, call, isUntouched);
-    if (code != 0) {
-      isUntouched();
-      return std::to_string(code);
-    }
+    if (code != 0) return std::to_string(code);
     const std::string text = Fields(kind, *record) + " ; " + Write(kind, record);
     kind.release(record);
     return text;
