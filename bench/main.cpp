@@ -1,0 +1,18 @@
+// All cases, of which the flags of Google Benchmark select some and say how they are run.
+#include <benchmark/benchmark.h>
+
+#include "cases.h"
+
+int main(int argc, char** argv) {
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+  bench::AddCertificates();
+  bench::AddLists();
+  bench::AddBase64();
+  bench::AddPem();
+  bench::AddCharacterSets();
+  bench::AddValues();
+  benchmark::RunSpecifiedBenchmarks();
+  benchmark::Shutdown();
+  return 0;
+}
