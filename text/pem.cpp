@@ -1,5 +1,4 @@
 // PEM text: DER2PEM_data_format and PEM2DER_data_format, each in one pass straight to the output.
-#include <algorithm>
 #include <cstring>
 #include <string_view>
 
@@ -8,11 +7,8 @@
 
 namespace {
 
-using velkord::Base64Decoder;
-using velkord::Base64Value;
+using namespace velkord;
 
-constexpr uint32_t kLineBytes = 48;
-constexpr uint32_t kLineCharacters = 64;
 constexpr uint32_t kLengthLimit = 1U << 30;
 constexpr size_t kMarkerDashes = 5;
 
@@ -26,12 +22,6 @@ uint64_t PemSize(uint32_t length, std::string_view header, std::string_view foot
     if (!marker.empty()) size += marker.size() + 2;
   }
   return size;
-}
-
-char* PutLineEnd(char* place) {
-  *place++ = '\r';
-  *place++ = '\n';
-  return place;
 }
 
 char* PutMarker(char* place, std::string_view marker) {
@@ -70,12 +60,13 @@ int32_t DER2PEM_data_format(const uint8_t* der, uint32_t length, char* out, uint
   if (size > UINT32_MAX) return VELKORD_FAILURE;
 
   char* place = PutMarker(out, header);
-  while (length != 0) {
-    const uint32_t line = std::min(length, kLineBytes);
-    place = PutLineEnd(velkord::PutBase64(place, der, line));
-    der += line;
-    length -= line;
-  }
+  const Base64Kernel& kernel = Base64Kernels().front();
+  const uint32_t lines = length / kLineBytes;
+  const uint32_t rest = length % kLineBytes;
+  kernel.encodeLines(der, lines, place);
+  der += size_t{lines} * kLineBytes;
+  place += size_t{lines} * (kLineCharacters + 2);
+  if (rest != 0) place = PutLineEnd(PutBase64(kernel, der, rest, place));
   place = PutMarker(place, footer);
   *place = '\0';
   *outLength = static_cast<uint32_t>(size);
@@ -85,11 +76,6 @@ int32_t DER2PEM_data_format(const uint8_t* der, uint32_t length, char* out, uint
 int32_t PEM2DER_data_format(const char* pem, uint32_t length, uint8_t* out, uint32_t* outLength) {
   std::string_view body;
   if (!FindBody(std::string_view(pem, length), body)) return VELKORD_FAILURE;
-  Base64Decoder decoder(out);
-  for (const char c : body) {
-    const uint8_t value = Base64Value(c);
-    if (value != velkord::kNotBase64 && !decoder.Take(value)) break;
-  }
-  *outLength = decoder.Written();
+  *outLength = DecodeBase64(Base64Kernels().front(), body, Strangers::kSkipped, out);
   return VELKORD_OK;
 }

@@ -1,0 +1,68 @@
+// Base64 in registers of 32 octets. This file alone is compiled for AVX2.
+#include <immintrin.h>
+
+#include <cstring>
+
+#include "text/base64_blocks.h"
+#include "text/base64_kernel.h"
+
+namespace velkord {
+
+namespace {
+
+struct Avx2 : LaneAccess<Avx2> {
+  using Block = __m256i;
+
+  static Block Load(const void* low, const void* high) {
+    return _mm256_set_m128i(LoadLane(high), LoadLane(low));
+  }
+  static Block LoadCharacters(const char* in) {
+    Block block;
+    std::memcpy(&block, in, sizeof(block));
+    return block;
+  }
+  static void Store(Block block, char* out) { std::memcpy(out, &block, sizeof(block)); }
+  // The first 12 octets of each lane, in two stores that overlap.
+  static void StoreGathered(Block block, uint8_t* out) {
+    const Block joined =
+        _mm256_permutevar8x32_epi32(block, _mm256_setr_epi32(0, 1, 2, 4, 2, 4, 5, 6));
+    StoreLane(_mm256_castsi256_si128(joined), out);
+    StoreLane(_mm256_extracti128_si256(joined, 1), out + 8);
+  }
+
+  static Block Words(int32_t word) { return _mm256_set1_epi32(word); }
+  static Block TwoTables(const LaneTable& low, const LaneTable& high) {
+    return Load(low.octets, high.octets);
+  }
+  static Block Table(const LaneTable& table) { return TwoTables(table, table); }
+
+  static Block And(Block a, Block b) { return _mm256_and_si256(a, b); }
+  static Block Or(Block a, Block b) { return _mm256_or_si256(a, b); }
+  static Block Add(Block a, Block b) { return _mm256_add_epi8(a, b); }
+  static Block SubtractToZero(Block a, Block b) { return _mm256_subs_epu8(a, b); }
+  static Block Equal(Block a, Block b) { return _mm256_cmpeq_epi8(a, b); }
+  static Block Greater(Block a, Block b) { return _mm256_cmpgt_epi8(a, b); }
+  static Block Shuffle(Block table, Block places) { return _mm256_shuffle_epi8(table, places); }
+  static Block ShiftRight4(Block a) { return _mm256_srli_epi16(a, 4); }
+  static Block MultiplyHigh(Block a, Block b) { return _mm256_mulhi_epu16(a, b); }
+  static Block MultiplyLow(Block a, Block b) { return _mm256_mullo_epi16(a, b); }
+  static Block MultiplyAddOctets(Block a, Block b) { return _mm256_maddubs_epi16(a, b); }
+  static Block MultiplyAddPairs(Block a, Block b) { return _mm256_madd_epi16(a, b); }
+  static bool AnyInCommon(Block a, Block b) { return _mm256_testz_si256(a, b) == 0; }
+};
+
+}  // namespace
+
+size_t EncodeBase64Avx2(const uint8_t* in, size_t size, char* out) {
+  return EncodeBlocks<Avx2>(in, size, out);
+}
+
+void EncodeBase64LinesAvx2(const uint8_t* in, size_t lines, char* out) {
+  EncodeLinesOfBlocks<Avx2>(in, lines, out);
+}
+
+size_t DecodeBase64Avx2(const char* in, size_t size, uint8_t* out) {
+  return DecodeBlocks<Avx2>(in, size, out);
+}
+
+}  // namespace velkord

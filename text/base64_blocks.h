@@ -1,0 +1,199 @@
+// Base64 in blocks of 24 bytes and 32 characters, over the vector operations of one instruction
+// set.
+//
+// `Vector` gives the type `Block`, 32 octets in two lanes of 16, and the operations on it. It has
+// internal linkage and so has all that is made of it here: the code of an instruction set stays in
+// the file that is compiled for it.
+#ifndef VELKORD_TEXT_BASE64_BLOCKS_H_
+#define VELKORD_TEXT_BASE64_BLOCKS_H_
+
+#include <emmintrin.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+#include "text/base64_alphabet.h"
+#include "text/base64_kernel.h"
+
+namespace velkord {
+
+inline constexpr size_t kBlockBytes = 24;
+inline constexpr size_t kBlockCharacters = 32;
+
+// A table of 16 octets, which each lane looks up for itself.
+struct LaneTable {
+  uint8_t octets[16];
+};
+
+// The same octet in all places.
+template <uint8_t kOctet>
+inline constexpr LaneTable kFilled = [] {
+  LaneTable table{};
+  for (uint8_t& octet : table.octets) octet = kOctet;
+  return table;
+}();
+
+// Where the bytes 1, 0, 2, 1 of each group stand in a lane whose first group begins at `first`.
+constexpr LaneTable SpreadGroups(uint8_t first) {
+  LaneTable table{};
+  for (size_t at = 0; at < 16; at += 4) {
+    const auto group = static_cast<uint8_t>(first + at / 4 * 3);
+    table.octets[at + 1] = group;
+    table.octets[at] = table.octets[at + 3] = static_cast<uint8_t>(group + 1);
+    table.octets[at + 2] = static_cast<uint8_t>(group + 2);
+  }
+  return table;
+}
+
+// A lane is loaded with 16 bytes, of which 12 are its own: the first of the low, the last of the
+// high one, so that a block is read and nothing behind it.
+inline constexpr LaneTable kSpreadLow = SpreadGroups(0);
+inline constexpr LaneTable kSpreadHigh = SpreadGroups(4);
+
+// The three low octets of each group, the highest first, at the front of the lane.
+inline constexpr LaneTable kGather = {
+    {2, 1, 0, 6, 5, 4, 10, 9, 8, 14, 13, 12, 0x80, 0x80, 0x80, 0x80}};
+
+// An index of 26 and more less this, no less than 0, is its place in the table of offsets: 0 for
+// lower case, 1 to 10 for digits, then '+' and '/'. Upper case has the place behind.
+inline constexpr uint8_t kBeforeDigits = 51;
+inline constexpr uint8_t kUpperCasePlace = 13;
+
+// What is added to an index to make it its character.
+inline constexpr LaneTable kCharacterOffsets = [] {
+  LaneTable table{};
+  table.octets[0] = 'a' - 26;
+  for (uint8_t index = kBeforeDigits + 1; index < 64; ++index) {
+    table.octets[index - kBeforeDigits] = static_cast<uint8_t>(kBase64Alphabet[index] - index);
+  }
+  table.octets[kUpperCasePlace] = 'A';
+  return table;
+}();
+
+// What is added to a character to make it its index, by its high four bits; '/' has the place of
+// one less.
+inline constexpr LaneTable kIndexOffsets = [] {
+  LaneTable table{};
+  const auto set = [&](size_t place, uint8_t character) {
+    table.octets[place] = static_cast<uint8_t>(kBase64Values[character] - character);
+  };
+  set(1, '/');
+  set(2, '+');
+  for (uint8_t high = 3; high < 8; ++high) set(high, static_cast<uint8_t>(high << 4 | 1));
+  return table;
+}();
+
+// A character is none of the alphabet when the bits of its high and of its low half have one in
+// common: a bit for each high half that the alphabet has, and one that stands for the others.
+inline constexpr uint8_t kNoHighHalf = 0x80;
+inline constexpr LaneTable kHighBits = [] {
+  LaneTable table{};
+  for (uint8_t high = 0; high < 16; ++high) {
+    table.octets[high] =
+        high >= 2 && high < 8 ? static_cast<uint8_t>(1U << (high - 2)) : kNoHighHalf;
+  }
+  return table;
+}();
+inline constexpr LaneTable kLowBits = [] {
+  LaneTable table{};
+  for (uint8_t low = 0; low < 16; ++low) {
+    table.octets[low] = kNoHighHalf;
+    for (uint8_t high = 2; high < 8; ++high) {
+      if (kBase64Values[static_cast<uint8_t>(high << 4 | low)] >= kBase64Padding) {
+        table.octets[low] |= kHighBits.octets[high];
+      }
+    }
+  }
+  return table;
+}();
+
+// Access to one lane in memory, which `Vector` makes its own by deriving from it.
+template <typename Vector>
+struct LaneAccess {
+  static __m128i LoadLane(const void* in) {
+    __m128i lane;
+    std::memcpy(&lane, in, sizeof(lane));
+    return lane;
+  }
+  static void StoreLane(__m128i lane, void* out) { std::memcpy(out, &lane, sizeof(lane)); }
+  static void StoreHalfLane(__m128i lane, void* out) {
+    _mm_storel_epi64(static_cast<__m128i_u*>(out), lane);
+  }
+};
+
+template <typename Vector>
+typename Vector::Block EncodeBlock(const uint8_t* in) {
+  // Each group of three bytes becomes 32 bits that hold it twice, so that one multiplication moves
+  // its first and third index into their octets, and another its second and fourth.
+  const auto groups =
+      Vector::Shuffle(Vector::Load(in, in + 8), Vector::TwoTables(kSpreadLow, kSpreadHigh));
+  const auto firstAndThird = Vector::MultiplyHigh(Vector::And(groups, Vector::Words(0x0FC0FC00)),
+                                                  Vector::Words(0x04000040));
+  const auto secondAndFourth = Vector::MultiplyLow(Vector::And(groups, Vector::Words(0x003F03F0)),
+                                                   Vector::Words(0x01000010));
+  const auto indexes = Vector::Or(firstAndThird, secondAndFourth);
+
+  const auto upperCase = Vector::Greater(Vector::Table(kFilled<26>), indexes);
+  const auto places =
+      Vector::Or(Vector::SubtractToZero(indexes, Vector::Table(kFilled<kBeforeDigits>)),
+                 Vector::And(upperCase, Vector::Table(kFilled<kUpperCasePlace>)));
+  return Vector::Add(indexes, Vector::Shuffle(Vector::Table(kCharacterOffsets), places));
+}
+
+// The groups of a block of characters. False when one of those is none of the alphabet.
+template <typename Vector>
+bool DecodeBlock(const char* in, typename Vector::Block& groups) {
+  const auto characters = Vector::LoadCharacters(in);
+  const auto high = Vector::And(Vector::ShiftRight4(characters), Vector::Table(kFilled<0x0F>));
+  const auto low = Vector::And(characters, Vector::Table(kFilled<0x0F>));
+  if (Vector::AnyInCommon(Vector::Shuffle(Vector::Table(kHighBits), high),
+                          Vector::Shuffle(Vector::Table(kLowBits), low))) {
+    return false;
+  }
+  const auto places = Vector::Add(high, Vector::Equal(characters, Vector::Table(kFilled<'/'>)));
+  const auto indexes =
+      Vector::Add(characters, Vector::Shuffle(Vector::Table(kIndexOffsets), places));
+
+  // Two indexes to 12 bits, two of those to 24.
+  const auto pairs = Vector::MultiplyAddOctets(indexes, Vector::Words(0x01400140));
+  groups = Vector::Shuffle(Vector::MultiplyAddPairs(pairs, Vector::Words(0x00011000)),
+                           Vector::Table(kGather));
+  return true;
+}
+
+template <typename Vector>
+size_t EncodeBlocks(const uint8_t* in, size_t size, char* out) {
+  size_t taken = 0;
+  for (; size - taken >= kBlockBytes; taken += kBlockBytes, out += kBlockCharacters) {
+    Vector::Store(EncodeBlock<Vector>(in + taken), out);
+  }
+  return taken;
+}
+
+template <typename Vector>
+void EncodeLinesOfBlocks(const uint8_t* in, size_t lines, char* out) {
+  for (; lines != 0; --lines, in += kLineBytes) {
+    const auto front = EncodeBlock<Vector>(in);
+    const auto back = EncodeBlock<Vector>(in + kBlockBytes);
+    Vector::Store(front, out);
+    Vector::Store(back, out + kBlockCharacters);
+    out = PutLineEnd(out + kLineCharacters);
+  }
+}
+
+template <typename Vector>
+size_t DecodeBlocks(const char* in, size_t size, uint8_t* out) {
+  size_t taken = 0;
+#pragma GCC unroll 4
+  for (; size - taken >= kBlockCharacters; taken += kBlockCharacters, out += kBlockBytes) {
+    typename Vector::Block groups{};
+    if (!DecodeBlock<Vector>(in + taken, groups)) break;
+    Vector::StoreGathered(groups, out);
+  }
+  return taken;
+}
+
+}  // namespace velkord
+
+#endif  // VELKORD_TEXT_BASE64_BLOCKS_H_

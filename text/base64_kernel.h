@@ -1,0 +1,49 @@
+// The bulk work of Base64, once for each instruction set.
+#ifndef VELKORD_TEXT_BASE64_KERNEL_H_
+#define VELKORD_TEXT_BASE64_KERNEL_H_
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+namespace velkord {
+
+// A full line of PEM text, which ends with CR LF.
+inline constexpr size_t kLineBytes = 48;
+inline constexpr size_t kLineCharacters = 64;
+
+inline char* PutLineEnd(char* place) {
+  *place++ = '\r';
+  *place++ = '\n';
+  return place;
+}
+
+// `encode` and `decode` take from the front of `in` as much as suits them, whole groups alone, and
+// give the number of bytes or characters taken. Nothing is read but `in`, and nothing is written
+// but what those groups give.
+struct Base64Kernel {
+  // Groups of three bytes.
+  size_t (*encode)(const uint8_t* in, size_t size, char* out);
+  // That many full lines with their ends.
+  void (*encodeLines)(const uint8_t* in, size_t lines, char* out);
+  // Groups of four characters of the alphabet, up to the first group that holds any other.
+  size_t (*decode)(const char* in, size_t size, uint8_t* out);
+};
+
+// The kernels that this processor can run, the fastest first. The last is the portable one, which
+// takes every whole group.
+std::span<const Base64Kernel> Base64Kernels();
+
+#if defined(__x86_64__) || defined(__i386__)
+#define VELKORD_BASE64_X86
+size_t EncodeBase64Avx2(const uint8_t* in, size_t size, char* out);
+void EncodeBase64LinesAvx2(const uint8_t* in, size_t lines, char* out);
+size_t DecodeBase64Avx2(const char* in, size_t size, uint8_t* out);
+size_t EncodeBase64Ssse3(const uint8_t* in, size_t size, char* out);
+void EncodeBase64LinesSsse3(const uint8_t* in, size_t lines, char* out);
+size_t DecodeBase64Ssse3(const char* in, size_t size, uint8_t* out);
+#endif
+
+}  // namespace velkord
+
+#endif  // VELKORD_TEXT_BASE64_KERNEL_H_
