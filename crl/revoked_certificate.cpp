@@ -6,20 +6,12 @@ using namespace velkord;
 
 namespace {
 
-// A date is read and written again in the form that it has.
-int32_t RewriteDate(Bytes in, uint32_t dataType, Anybuf** out) {
-  uint8_t form;
-  int32_t time;
-  VELKORD_TRY(TimeReadByFirstOctet(in, dataType, form, time));
-  return TimeWriteNode(time, form, out);
-}
-
 int32_t Fill(RevokedCertificate& record, DerElements& elements) {
   DerElement element;
   VELKORD_TRY(elements.Next(element));
   VELKORD_TRY(DerCopyElement(element.whole, &record.certificateSerialNumber));
   VELKORD_TRY(elements.Next(element));
-  VELKORD_TRY(RewriteDate(element.whole, element.tag, &record.revocationDate));
+  VELKORD_TRY(TimeRewrite(element.whole, element.tag, &record.revocationDate));
   if (elements.AtEnd()) return VELKORD_OK;
   VELKORD_TRY(NextSequence(elements, record.crlEntryExtensions));
   record.hasCrlEntryExtensions = 1;
@@ -44,7 +36,7 @@ int32_t ASN1_CRL_SetRevokedCertificateRevocationDate(RevokedCertificate* record,
                                                      const Anybuf* value) {
   return SetField(record, &RevokedCertificate::revocationDate, value,
                   [](const Anybuf& node, Anybuf** out) {
-                    return RewriteDate(NodeBytes(node), node.dataType, out);
+                    return TimeRewrite(NodeBytes(node), node.dataType, out);
                   });
 }
 

@@ -22,13 +22,66 @@ uint8_t* PutTwoDigits(uint8_t* place, int value) {
 
 int TwoDigits(Bytes text, size_t at) { return (text[at] - '0') * 10 + (text[at + 1] - '0'); }
 
+// The fields in the text of a time, whatever their values.
+int32_t ReadFields(Bytes in, std::tm& fields) {
+  uint32_t tag;
+  uint32_t length;
+  VELKORD_TRY(DerParseTag(in, tag));
+  VELKORD_TRY(DerParseLength(in, length));
+
+  const size_t yearDigits = tag == ReduceTag(kGeneralizedTime) ? 4 : 2;
+  const size_t digits = yearDigits + kMonthToSecondDigits;
+  if (in.size() <= digits || in[digits] != 'Z') return VELKORD_BAD_TIME;
+  const auto isDigit = [](uint8_t octet) { return octet >= '0' && octet <= '9'; };
+  const Bytes fieldDigits = in.first(digits);
+  if (!std::all_of(fieldDigits.begin(), fieldDigits.end(), isDigit)) return VELKORD_BAD_TIME;
+
+  fields = {};
+  if (yearDigits == 4) {
+    fields.tm_year = TwoDigits(in, 0) * 100 + TwoDigits(in, 2) - kYearBase;
+  } else {
+    const int year = TwoDigits(in, 0);
+    fields.tm_year = year < kFirstUtcTimeYear ? year + 100 : year;
+  }
+  fields.tm_mon = TwoDigits(in, yearDigits) - 1;
+  fields.tm_mday = TwoDigits(in, yearDigits + 2);
+  fields.tm_hour = TwoDigits(in, yearDigits + 4);
+  fields.tm_min = TwoDigits(in, yearDigits + 6);
+  fields.tm_sec = TwoDigits(in, yearDigits + 8);
+  return VELKORD_OK;
+}
+
+// The fields in range, and the time.
+int32_t ReadTimeFields(Bytes in, std::tm& fields, int32_t& time) {
+  VELKORD_TRY(ReadFields(in, fields));
+  return FromLocalTime(fields, time) ? VELKORD_OK : VELKORD_OUT_OF_MEMORY;
+}
+
+// Whether the low byte of a `dataType` is that of a form. 0 or -7.
+int32_t CheckForm(uint8_t form, uint32_t dataType) {
+  return (dataType & 0xFF) == ReduceTag(form) ? VELKORD_OK : VELKORD_WRONG_TAG;
+}
+
+uint8_t FormByFirstOctet(Bytes in) {
+  return !in.empty() && in[0] == kUtcTime ? kUtcTime : kGeneralizedTime;
+}
+
+int32_t MakeNode(const TimeElement& element, uint8_t tag, Anybuf** out) {
+  const int32_t code = DerCopyBytes(element.Whole(), ReduceTag(tag), 0, out);
+  return code == VELKORD_OK ? VELKORD_OK : VELKORD_OUT_OF_MEMORY;
+}
+
 }  // namespace
 
 int32_t TimeElement::Set(int32_t time, uint8_t tag) {
   if (time < 0) return VELKORD_NEGATIVE_TIME;
   std::tm fields{};
   if (!ToLocalTime(time, fields)) return VELKORD_OUT_OF_MEMORY;
+  Set(fields, tag);
+  return VELKORD_OK;
+}
 
+void TimeElement::Set(const std::tm& fields, uint8_t tag) {
   octets_[0] = tag;
   uint8_t* const text = octets_ + 2;
   uint8_t* end = text;
@@ -42,54 +95,38 @@ int32_t TimeElement::Set(int32_t time, uint8_t tag) {
   *end++ = 'Z';
   octets_[1] = static_cast<uint8_t>(end - text);
   size_ = static_cast<size_t>(end - octets_);
-  return VELKORD_OK;
 }
 
 int32_t TimeWriteNode(int32_t time, uint8_t tag, Anybuf** out) {
   TimeElement element;
   VELKORD_TRY(element.Set(time, tag));
-  if (DerCopyBytes(element.Whole(), ReduceTag(tag), 0, out) != VELKORD_OK) {
-    return VELKORD_OUT_OF_MEMORY;
-  }
-  return VELKORD_OK;
+  return MakeNode(element, tag, out);
 }
 
 int32_t TimeRead(Bytes in, int32_t& time) {
-  uint32_t tag;
-  uint32_t length;
-  VELKORD_TRY(DerParseTag(in, tag));
-  VELKORD_TRY(DerParseLength(in, length));
-
-  const size_t yearDigits = tag == ReduceTag(kGeneralizedTime) ? 4 : 2;
-  const size_t digits = yearDigits + kMonthToSecondDigits;
-  if (in.size() <= digits || in[digits] != 'Z') return VELKORD_BAD_TIME;
-  const auto isDigit = [](uint8_t octet) { return octet >= '0' && octet <= '9'; };
-  const Bytes fieldDigits = in.first(digits);
-  if (!std::all_of(fieldDigits.begin(), fieldDigits.end(), isDigit)) return VELKORD_BAD_TIME;
-
-  std::tm fields{};
-  if (yearDigits == 4) {
-    fields.tm_year = TwoDigits(in, 0) * 100 + TwoDigits(in, 2) - kYearBase;
-  } else {
-    const int year = TwoDigits(in, 0);
-    fields.tm_year = year < kFirstUtcTimeYear ? year + 100 : year;
-  }
-  fields.tm_mon = TwoDigits(in, yearDigits) - 1;
-  fields.tm_mday = TwoDigits(in, yearDigits + 2);
-  fields.tm_hour = TwoDigits(in, yearDigits + 4);
-  fields.tm_min = TwoDigits(in, yearDigits + 6);
-  fields.tm_sec = TwoDigits(in, yearDigits + 8);
-  return FromLocalTime(fields, time) ? VELKORD_OK : VELKORD_OUT_OF_MEMORY;
+  std::tm fields;
+  return ReadTimeFields(in, fields, time);
 }
 
 int32_t TimeReadForm(Bytes in, uint8_t form, uint32_t dataType, int32_t& time) {
-  if ((dataType & 0xFF) != ReduceTag(form)) return VELKORD_WRONG_TAG;
+  VELKORD_TRY(CheckForm(form, dataType));
   return TimeRead(in, time);
 }
 
 int32_t TimeReadByFirstOctet(Bytes in, uint32_t dataType, uint8_t& form, int32_t& time) {
-  form = !in.empty() && in[0] == kUtcTime ? kUtcTime : kGeneralizedTime;
+  form = FormByFirstOctet(in);
   return TimeReadForm(in, form, dataType, time);
+}
+
+int32_t TimeRewrite(Bytes in, uint32_t dataType, Anybuf** out) {
+  const uint8_t form = FormByFirstOctet(in);
+  VELKORD_TRY(CheckForm(form, dataType));
+  std::tm fields;
+  int32_t time;
+  VELKORD_TRY(ReadTimeFields(in, fields, time));
+  TimeElement element;
+  element.Set(fields, form);
+  return MakeNode(element, form, out);
 }
 
 }  // namespace velkord

@@ -2,6 +2,8 @@
 #ifndef VELKORD_DER_TIME_H_
 #define VELKORD_DER_TIME_H_
 
+#include <ctime>
+
 #include "der/node.h"
 
 namespace velkord {
@@ -11,6 +13,8 @@ class TimeElement {
  public:
   // In the form of `tag`, UTCTime or GeneralizedTime. 0, -4 for a negative time, or -7000.
   int32_t Set(int32_t time, uint8_t tag);
+  // From local time, its fields in range.
+  void Set(const std::tm& fields, uint8_t tag);
 
   // Empty before a time is set.
   Bytes Whole() const { return {octets_, size_}; }
@@ -34,6 +38,9 @@ int32_t TimeReadForm(Bytes in, uint8_t form, uint32_t dataType, int32_t& time);
 
 // The same of the form that the first octet selects: UTCTime by its tag, else GeneralizedTime.
 int32_t TimeReadByFirstOctet(Bytes in, uint32_t dataType, uint8_t& form, int32_t& time);
+
+// Makes a time TLV node of such an element: its time in the form that the first octet selects.
+int32_t TimeRewrite(Bytes in, uint32_t dataType, Anybuf** out);
 
 }  // namespace velkord
 

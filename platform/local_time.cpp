@@ -17,7 +17,7 @@ bool ToLocalTime(int32_t seconds, std::tm& fields) {
 #endif
 }
 
-bool FromLocalTime(std::tm fields, int32_t& seconds) {
+bool FromLocalTime(std::tm& fields, int32_t& seconds) {
   fields.tm_isdst = -1;
 #if defined(_WIN32)
   _tzset();

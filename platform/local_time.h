@@ -10,9 +10,9 @@ namespace velkord {
 // False when the platform refuses the value.
 bool ToLocalTime(int32_t seconds, std::tm& fields);
 
-// Fields out of their range carry over, and daylight saving is worked out from the zone. False for
-// a time outside 0 to 2147483647.
-bool FromLocalTime(std::tm fields, int32_t& seconds);
+// Fields out of their range carry over, and daylight saving is worked out from the zone; `fields`
+// then are those that `ToLocalTime` gives. False for a time outside 0 to 2147483647.
+bool FromLocalTime(std::tm& fields, int32_t& seconds);
 
 }  // namespace velkord
 
