@@ -37,7 +37,7 @@ int32_t Fill(TbsCertList& record, DerElements& elements) {
   DerElement element;
   if (elements.StartsWith(kInteger)) {
     VELKORD_TRY(elements.Next(element));
-    record.version = DerBytesToUint(element.content);
+    record.version = DerBytesToUint(element.Content());
   }
   VELKORD_TRY(NextSequence(elements, record.signature));
   VELKORD_TRY(NextSequence(elements, record.issuer));
@@ -108,7 +108,8 @@ int32_t ASN1_CRL_TbsCertListWriteData(const TbsCertList* record, Anybuf** out) {
 
   const IntegerElement version(kWrittenVersion);
   const Field extensions = OptionalField(record->hasCrlExtensions, record->crlExtensions);
-  const DerHeader explicitTag(ExplicitTag(kExtensionsTag), extensions.bytes.size());
+  const DerHeaderOctets explicitTag(
+      DerHeader(ExplicitTag(kExtensionsTag), extensions.bytes.size()));
   return JoinFields({record->version == kWrittenVersion ? version.Whole() : Bytes(),
                      record->signature, record->issuer, thisUpdate.Whole(), nextUpdate.Whole(),
                      OptionalField(record->hasRevokedCertificates, record->revokedCertificates),

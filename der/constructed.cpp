@@ -20,7 +20,7 @@ int32_t JoinChain(uint8_t tag, const Anybuf* chain, Anybuf** out) {
 
 int32_t SplitBytes(Bytes in, uint32_t type, Anybuf** out) {
   DerElements children;
-  VELKORD_TRY(children.Open(in, type));
+  VELKORD_TRY(children.OpenUnchecked(in, type));
   return DerSplit(children, out);
 }
 

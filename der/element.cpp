@@ -9,7 +9,7 @@ int32_t DerParseTag(Bytes& in, uint32_t& tag) {
   if (in.empty()) return VELKORD_SIZE_MISMATCH;
   const uint8_t first = in[0];
   size_t used = 1;
-  if ((first & kTagNumberMask) != kTagNumberMask) {
+  if (!IsLongTag(first)) {
     tag = ReduceTag(first);
   } else {
     uint32_t number = 0;
@@ -43,26 +43,16 @@ int32_t DerParseLength(Bytes& in, uint32_t& length) {
   return VELKORD_OK;
 }
 
-namespace {
-
-// The length and content behind a tag; `start` is the place of the tag.
-int32_t TakeContent(Bytes start, Bytes& in, DerElement& element) {
-  uint32_t length;
-  VELKORD_TRY(DerParseLength(in, length));
-  if (length > in.size()) return VELKORD_SIZE_MISMATCH;
-  element.content = in.first(length);
-  in = in.subspan(length);
-  element.whole = start.first(start.size() - in.size());
-  return VELKORD_OK;
-}
-
-}  // namespace
-
-int32_t DerTakeElement(Bytes& in, DerElement& element) {
+int32_t DerOpenAnyElement(Bytes in, DerElement& element) {
   Bytes rest = in;
-  VELKORD_TRY(DerParseTag(rest, element.tag));
-  VELKORD_TRY(TakeContent(in, rest, element));
-  in = rest;
+  uint32_t tag;
+  uint32_t length;
+  VELKORD_TRY(DerParseTag(rest, tag));
+  VELKORD_TRY(DerParseLength(rest, length));
+  if (length > rest.size()) return VELKORD_SIZE_MISMATCH;
+  element.tag = tag;
+  element.headerSize = in.size() - rest.size();
+  element.whole = in.first(element.headerSize + length);
   return VELKORD_OK;
 }
 
@@ -71,29 +61,43 @@ int32_t DerParseElement(Bytes in, DerElement& element) {
   return in.empty() ? VELKORD_OK : VELKORD_SIZE_MISMATCH;
 }
 
-int32_t DerElements::Open(Bytes in, uint32_t type) {
-  DerElement parent;
-  Bytes rest = in;
-  VELKORD_TRY(DerParseTag(rest, parent.tag));
-  if (parent.tag != type) return VELKORD_WRONG_TAG;
-  VELKORD_TRY(TakeContent(in, rest, parent));
-  if (!rest.empty()) return VELKORD_SIZE_MISMATCH;
-  return OpenContent(parent.content);
+int32_t DerParseElementOf(uint32_t type, Bytes in, DerElement& element) {
+  // No tag of several octets is a type's.
+  if (in.empty() || ReduceTag(in[0]) != type) {
+    uint32_t tag;
+    VELKORD_TRY(DerParseTag(in, tag));
+    return VELKORD_WRONG_TAG;
+  }
+  return DerParseElement(in, element);
 }
 
-int32_t DerElements::OpenContent(Bytes content) {
-  content_ = content;
-  rest_ = content;
-  count_ = 0;
+int32_t DerCheckChildren(Bytes content) {
   DerElement child;
-  for (Bytes rest = content; !rest.empty(); ++count_) {
-    if (DerTakeElement(rest, child) != VELKORD_OK) return VELKORD_FAILURE;
+  while (!content.empty()) {
+    if (DerTakeElement(content, child) != VELKORD_OK) return VELKORD_FAILURE;
   }
   return VELKORD_OK;
 }
 
+int32_t DerElements::Open(Bytes in, uint32_t type) {
+  VELKORD_TRY(OpenUnchecked(in, type));
+  return DerCheckChildren(rest_);
+}
+
+int32_t DerElements::OpenContent(Bytes content) {
+  OpenUnchecked(content);
+  return DerCheckChildren(rest_);
+}
+
 int32_t DerElements::Next(DerElement& child) {
-  return AtEnd() ? VELKORD_FAILURE : DerTakeElement(rest_, child);
+  return !AtEnd() && DerTakeElement(rest_, child) == VELKORD_OK ? VELKORD_OK : VELKORD_FAILURE;
+}
+
+int32_t DerElements::OpenUnchecked(Bytes in, uint32_t type) {
+  DerElement parent;
+  VELKORD_TRY(DerParseElementOf(type, in, parent));
+  OpenUnchecked(parent.Content());
+  return VELKORD_OK;
 }
 
 }  // namespace velkord

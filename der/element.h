@@ -40,6 +40,8 @@ constexpr uint32_t ReduceTag(uint8_t octet) {
   return octet >= 0x80 ? octet : octet & kTagNumberMask;
 }
 
+constexpr bool IsLongTag(uint8_t first) { return (first & kTagNumberMask) == kTagNumberMask; }
+
 // Reads the tag octets at the front of `in`, which moves behind them. A tag of several octets is
 // `(number << 8) | first octet`, the number cut to 24 bits.
 // 0, or -2 when the tag does not end inside `in`.
@@ -58,22 +60,65 @@ constexpr uint32_t DerLengthSize(uint32_t length) {
   return length < 0x1000000 ? 4 : 5;
 }
 
-// One element: its reduced tag and views of the whole TLV and of its content.
+// One element: its reduced tag, a view of the whole TLV, and where in it the content begins.
 struct DerElement {
   uint32_t tag = 0;
+  size_t headerSize = 0;
   Bytes whole;
-  Bytes content;
+
+  Bytes Content() const { return whole.subspan(headerSize); }
 };
 
+// Opens the element at the front of `in`, whatever its header. 0, -1 or -2 as the parsers above.
+int32_t DerOpenAnyElement(Bytes in, DerElement& element);
+
+// The same, at once for nearly all headers: a tag of one octet and a length of one, or of one or two
+// behind the octet that counts them.
+inline int32_t DerOpenElement(Bytes in, DerElement& element) {
+  const size_t size = in.size();
+  if (size >= 2 && !IsLongTag(in[0])) {
+    size_t header = 2;
+    size_t whole = header + in[1];
+    if (in[1] == 0x82 && size >= 4) {
+      header = 4;
+      whole = header + (size_t{in[2]} << 8 | in[3]);
+    } else if (in[1] == 0x81 && size >= 3) {
+      header = 3;
+      whole = header + in[2];
+    }
+    if (in[1] < 0x80 || header != 2) {
+      if (whole > size) return VELKORD_SIZE_MISMATCH;
+      element = {ReduceTag(in[0]), header, in.first(whole)};
+      return VELKORD_OK;
+    }
+  }
+  // By an element of its own, so that `element` is not kept in memory for its sake.
+  DerElement any;
+  VELKORD_TRY(DerOpenAnyElement(in, any));
+  element = any;
+  return VELKORD_OK;
+}
+
 // Takes the element at the front of `in`, which moves behind it. 0, -1 or -2 as the parsers above.
-int32_t DerTakeElement(Bytes& in, DerElement& element);
+inline int32_t DerTakeElement(Bytes& in, DerElement& element) {
+  VELKORD_TRY(DerOpenElement(in, element));
+  in = in.subspan(element.whole.size());
+  return VELKORD_OK;
+}
 
 // Takes an element that must fill `in` exactly; -2 when it does not.
 int32_t DerParseElement(Bytes in, DerElement& element);
+// The same of a SEQUENCE or SET of reduced tag `type`; -7 for another tag, before all else.
+int32_t DerParseElementOf(uint32_t type, Bytes in, DerElement& element);
 
-// The direct children of an element, all of them checked before the first is given out.
+// Whether the children of an element fit its content. 0, or -1.
+int32_t DerCheckChildren(Bytes content);
+
+// The direct children of an element.
 class DerElements {
  public:
+  // These check all children before the first is given out.
+  //
   // Opens a SEQUENCE or SET of reduced tag `type` that fills `in`.
   // 0; -7 for another tag; -1 or -2 from its own header; -1 when a child does not fit.
   int32_t Open(Bytes in, uint32_t type);
@@ -81,13 +126,19 @@ class DerElements {
   // Opens the content of an element whose header is read. 0, or -1 when a child does not fit.
   int32_t OpenContent(Bytes content);
 
-  Bytes Content() const { return content_; }
-  uint32_t Count() const { return count_; }
+  // These leave the check to `Next` and, for the children that it has not given, to `Finish`, which
+  // ends what was done with them: its `code`, or -1 when a child does not fit.
+  int32_t OpenUnchecked(Bytes in, uint32_t type);
+  void OpenUnchecked(Bytes content) { rest_ = content; }
+  int32_t Finish(int32_t code) const {
+    return DerCheckChildren(rest_) == VELKORD_OK ? code : VELKORD_FAILURE;
+  }
+
   bool AtEnd() const { return rest_.empty(); }
   // Whether there is a next child, whose first octet is `octet`.
   bool StartsWith(uint8_t octet) const { return !rest_.empty() && rest_[0] == octet; }
 
-  // Gives the next child. 0, or -1 at the end.
+  // Gives the next child. 0, or -1 at the end and for one that does not fit.
   int32_t Next(DerElement& child);
 
   // Gives each child to `open` with its place, 0 for the first and 1 for all behind it, so that of
@@ -103,9 +154,7 @@ class DerElements {
   }
 
  private:
-  Bytes content_;
   Bytes rest_;
-  uint32_t count_ = 0;
 };
 
 inline constexpr uint32_t kSequenceType = ReduceTag(kSequence);

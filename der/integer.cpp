@@ -43,7 +43,7 @@ int32_t ASN1_ReadInteger(const Anybuf* source, uint32_t* value) {
   Bytes in = NodeBytes(*source);
   DerElement element;
   VELKORD_TRY(DerTakeElement(in, element));
-  *value = DerBytesToUint(element.content);
+  *value = DerBytesToUint(element.Content());
   return VELKORD_OK;
 }
 

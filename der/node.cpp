@@ -9,21 +9,10 @@ namespace velkord {
 
 namespace {
 
-// Writes tag and length octets and gives the place behind them.
-uint8_t* PutHeader(uint8_t* place, uint8_t tag, uint32_t length) {
-  *place++ = tag;
-  const uint32_t octets = DerLengthSize(length) - 1;
-  if (octets != 0) *place++ = static_cast<uint8_t>(0x80 | octets);
-  for (uint32_t left = std::max(octets, 1U); left != 0; --left) {
-    *place++ = static_cast<uint8_t>(length >> 8 * (left - 1));
-  }
-  return place;
-}
-
 // The content of an element without its unused-bits octet, if that is to be dropped, and without
 // the zero octet that keeps an INTEGER positive.
 int32_t OpenElement(const DerElement& element, bool dropUnusedBitsOctet, Bytes& content) {
-  Bytes bytes = element.content;
+  Bytes bytes = element.Content();
   if (dropUnusedBitsOctet) {
     if (bytes.empty()) return VELKORD_SIZE_MISMATCH;
     bytes = bytes.subspan(1);
@@ -43,39 +32,38 @@ uint32_t ImpliedUnusedBits(Bytes bits) {
   return last < 2 || last > 0x80 ? 0 : static_cast<uint32_t>(std::bit_width(last - 1));
 }
 
-DerHeader::DerHeader(uint8_t tag, uint64_t contentLength) : total_(contentLength) {
-  // A length beyond 32 bits is refused by whoever makes the element, which is never smaller.
-  const uint8_t* end = PutHeader(octets_, tag, static_cast<uint32_t>(contentLength));
-  size_ = static_cast<size_t>(end - octets_);
-  total_ += size_;
-}
-
-DerHeader DerHeader::ForBitString(uint32_t unusedBits, uint64_t bitsLength) {
-  DerHeader header(kBitString, bitsLength + 1);
-  header.octets_[header.size_++] = static_cast<uint8_t>(unusedBits);
-  return header;
-}
-
-DerHeader DerHeader::For(uint8_t tag, Bytes content, uint32_t unusedBits) {
-  if (tag == kBitString) return ForBitString(unusedBits, content.size());
-  const bool zeroOctet = tag == kInteger && !content.empty() && content[0] >= 0x80;
-  DerHeader header(tag, uint64_t{content.size()} + (zeroOctet ? 1 : 0));
-  if (zeroOctet) header.octets_[header.size_++] = 0;
-  return header;
+uint8_t* DerHeader::Put(uint8_t* place) const {
+  const auto length = static_cast<uint32_t>(contentLength_);
+  *place++ = tag_;
+  if (length < 0x80) {
+    *place++ = static_cast<uint8_t>(length);
+  } else {
+    const uint32_t octets = DerLengthSize(length) - 1;
+    *place++ = static_cast<uint8_t>(0x80 | octets);
+    for (uint32_t left = octets; left != 0; --left) {
+      *place++ = static_cast<uint8_t>(length >> 8 * (left - 1));
+    }
+  }
+  if (hasOctet_) *place++ = octet_;
+  return place;
 }
 
 Anybuf* DerNewNode(uint64_t size, uint32_t dataType) {
   if (size > UINT32_MAX) return nullptr;
-  Anybuf* node = AllocateZeroed<Anybuf>();
-  if (node == nullptr) return nullptr;
-  node->data = AllocateBytes(static_cast<size_t>(size));
-  if (node->data == nullptr) {
+  auto* node = Allocate<Anybuf>();
+  uint8_t* data = AllocateBytes(static_cast<size_t>(size));
+  if (node == nullptr || data == nullptr) {
+    Release(data);
     Release(node);
     return nullptr;
   }
-  node->dataLen = static_cast<uint32_t>(size);
-  node->memKind = kMemKind;
-  node->dataType = dataType;
+  *node = {.data = data,
+           .dataLen = static_cast<uint32_t>(size),
+           .unusedBits = 0,
+           .memKind = kMemKind,
+           .dataType = dataType,
+           .next = nullptr,
+           .prev = nullptr};
   return node;
 }
 
@@ -115,9 +103,9 @@ Anybuf* DerCopyNode(const Anybuf& node) {
 }
 
 int32_t DerBuildHeader(const DerHeader& header, Anybuf** out, uint8_t*& place) {
-  Anybuf* node = DerNewNode(header.Total(), ReduceTag(header.View()[0]));
+  Anybuf* node = DerNewNode(header.Total(), ReduceTag(header.Tag()));
   if (node == nullptr) return VELKORD_FAILURE;
-  place = Put(node->data, header.View());
+  place = header.Put(node->data);
   *out = node;
   return VELKORD_OK;
 }
@@ -153,10 +141,23 @@ int32_t DerJoin(uint8_t tag, std::initializer_list<Bytes> parts, Anybuf** out) {
       out);
 }
 
+int32_t DerRewrap(uint8_t tag, const DerElement& element, Anybuf** out) {
+  if (element.tag != ReduceTag(tag)) return VELKORD_WRONG_TAG;
+  const Bytes content = element.Content();
+  VELKORD_TRY(DerCheckChildren(content));
+  if (element.headerSize != 1 + DerLengthSize(static_cast<uint32_t>(content.size()))) {
+    return DerBuild(tag, content, out);
+  }
+  // In shortest form already: all of it but the tag, of which the class may be another.
+  VELKORD_TRY(DerCopyBytes(element.whole, element.tag, 0, out));
+  (*out)->data[0] = tag;
+  return VELKORD_OK;
+}
+
 int32_t DerRewrap(uint8_t tag, Bytes in, Anybuf** out) {
-  DerElements children;
-  VELKORD_TRY(children.Open(in, ReduceTag(tag)));
-  return DerBuild(tag, children.Content(), out);
+  DerElement element;
+  VELKORD_TRY(DerParseElementOf(ReduceTag(tag), in, element));
+  return DerRewrap(tag, element, out);
 }
 
 int32_t DerSplit(DerElements& children, Anybuf** out) {

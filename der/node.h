@@ -49,25 +49,55 @@ inline uint32_t CopyOut(Bytes bytes, uint8_t* out) {
 // the number of bits of one less than the byte.
 uint32_t ImpliedUnusedBits(Bytes bits);
 
-// The header of an element: tag and length octets.
+// The header of an element: tag and length octets, and the octet that the content has in front.
 class DerHeader {
  public:
-  DerHeader(uint8_t tag, uint64_t contentLength);
-  // With the unused-bits octet of a BIT STRING behind them.
-  static DerHeader ForBitString(uint32_t unusedBits, uint64_t bitsLength);
+  DerHeader(uint8_t tag, uint64_t contentLength) : tag_(tag), contentLength_(contentLength) {}
+  // With the unused-bits octet of a BIT STRING.
+  static DerHeader ForBitString(uint32_t unusedBits, uint64_t bitsLength) {
+    return {kBitString, bitsLength + 1, static_cast<uint8_t>(unusedBits)};
+  }
   // With the octet that the content of such an element has in front: a BIT STRING's is the low byte
   // of `unusedBits`, which no other type looks at; an INTEGER's is zero, and there only when the
   // content begins with 0x80 or more.
-  static DerHeader For(uint8_t tag, Bytes content, uint32_t unusedBits = 0);
+  static DerHeader For(uint8_t tag, Bytes content, uint32_t unusedBits = 0) {
+    if (tag == kBitString) return ForBitString(unusedBits, content.size());
+    if (tag == kInteger && !content.empty() && content[0] >= 0x80) {
+      return {tag, uint64_t{content.size()} + 1, 0};
+    }
+    return {tag, content.size()};
+  }
+
+  uint8_t Tag() const { return tag_; }
+  // Size of the whole element.
+  uint64_t Total() const {
+    // A length beyond 32 bits is refused by whoever makes the element, which is never smaller.
+    return 1 + DerLengthSize(static_cast<uint32_t>(contentLength_)) + contentLength_;
+  }
+  // Writes the header and gives the place behind it.
+  uint8_t* Put(uint8_t* place) const;
+
+ private:
+  DerHeader(uint8_t tag, uint64_t contentLength, uint8_t octet)
+      : tag_(tag), hasOctet_(true), octet_(octet), contentLength_(contentLength) {}
+
+  uint8_t tag_;
+  bool hasOctet_ = false;
+  uint8_t octet_ = 0;
+  uint64_t contentLength_;
+};
+
+// A header as a part of what is joined.
+class DerHeaderOctets {
+ public:
+  explicit DerHeaderOctets(const DerHeader& header)
+      : size_(static_cast<size_t>(header.Put(octets_) - octets_)) {}
 
   Bytes View() const { return {octets_, size_}; }
-  // Size of the whole element.
-  uint64_t Total() const { return total_; }
 
  private:
   uint8_t octets_[7] = {};
-  size_t size_ = 0;
-  uint64_t total_;
+  size_t size_;
 };
 
 // A node with a block of `size` bytes for the caller to fill; null when it cannot be made.
@@ -115,7 +145,9 @@ int32_t DerJoinEach(uint8_t tag, ForEach forEach, Anybuf** out) {
 int32_t DerJoin(uint8_t tag, std::initializer_list<Bytes> parts, Anybuf** out);
 
 // A finished SEQUENCE or SET, checked, back out with its length in shortest form.
+// 0, -1, -2 or -7.
 int32_t DerRewrap(uint8_t tag, Bytes in, Anybuf** out);
+int32_t DerRewrap(uint8_t tag, const DerElement& element, Anybuf** out);
 
 // The children of an opened element as a chain of TLV nodes, null when there are none.
 int32_t DerSplit(DerElements& children, Anybuf** out);

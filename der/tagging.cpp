@@ -6,7 +6,7 @@
 namespace velkord {
 
 int32_t DerOpenImplicit(const DerElement& element, Bytes& content) {
-  Bytes bytes = element.content;
+  Bytes bytes = element.Content();
   if ((element.tag & 1) != 0) {
     if (bytes.empty()) return VELKORD_SIZE_MISMATCH;
     bytes = bytes.subspan(1);
@@ -70,7 +70,7 @@ int32_t ASN1_ReadImplicit(const Anybuf* source, Anybuf** out, uint32_t* outTagNu
   VELKORD_TRY(DerParseElement(NodeBytes(*source), element));
   if (IsImplicitConstructed(tag)) {
     DerElements children;
-    VELKORD_TRY(children.OpenContent(element.content));
+    children.OpenUnchecked(element.Content());
     return DerSplit(children, out);
   }
   Bytes content;

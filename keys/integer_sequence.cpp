@@ -8,9 +8,9 @@ int32_t WriteIntegerSequence(std::span<const Bytes> magnitudes, uint8_t* out, ui
   const DerHeader sequence(kSequence, length);
   if (sequence.Total() > UINT32_MAX) return VELKORD_FAILURE;
   if (out != nullptr) {
-    uint8_t* place = Put(out, sequence.View());
+    uint8_t* place = sequence.Put(out);
     for (const Bytes magnitude : magnitudes) {
-      place = Put(place, DerHeader::For(kInteger, magnitude).View());
+      place = DerHeader::For(kInteger, magnitude).Put(place);
       place = Put(place, magnitude);
     }
   }

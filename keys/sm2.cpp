@@ -13,7 +13,7 @@ constexpr size_t kMaximumPoint = 256;
 void WriteElement(const DerHeader& header, std::initializer_list<Bytes> parts, uint8_t* der,
                   uint32_t* derLen) {
   if (header.Total() > UINT32_MAX) return;
-  uint8_t* place = Put(der, header.View());
+  uint8_t* place = header.Put(der);
   for (const Bytes part : parts) place = Put(place, part);
   *derLen = static_cast<uint32_t>(header.Total());
 }

@@ -12,7 +12,7 @@ constexpr uint32_t kAttributesTag = 0;
 // The attributes keep the tag number of their element and come back constructed, the order of what
 // they hold left alone.
 int32_t FillAttributes(const DerElement& element, Anybuf*& field) {
-  Bytes content = element.content;
+  Bytes content = element.Content();
   if (IsImplicitConstructed(element.tag)) {
     // They come back as they stand, and are only checked.
     DerElements attributes;
@@ -26,7 +26,7 @@ int32_t FillAttributes(const DerElement& element, Anybuf*& field) {
 int32_t Fill(PKCS10& record, DerElements& elements) {
   DerElement element;
   VELKORD_TRY(elements.Next(element));
-  VELKORD_TRY(ASN1_WriteInteger(DerBytesToUint(element.content), &record.version));
+  VELKORD_TRY(ASN1_WriteInteger(DerBytesToUint(element.Content()), &record.version));
   VELKORD_TRY(NextSequence(elements, record.subject));
   VELKORD_TRY(NextSequence(elements, record.subjectPublicKeyInfo));
   if (elements.AtEnd()) return VELKORD_OK;

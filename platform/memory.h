@@ -16,10 +16,19 @@ inline uint8_t* AllocateBytes(size_t size) {
   return static_cast<uint8_t*>(std::malloc(size == 0 ? 1 : size));
 }
 
-// A record or node with all fields 0 or null.
+// A record or node for the caller to fill.
+template <typename Record>
+Record* Allocate() {
+  return static_cast<Record*>(std::malloc(sizeof(Record)));
+}
+
+// One with all fields 0 or null. Not by calloc: that of glibc passes by the blocks that were
+// released last, which are at hand.
 template <typename Record>
 Record* AllocateZeroed() {
-  return static_cast<Record*>(std::calloc(1, sizeof(Record)));
+  auto* record = Allocate<Record>();
+  if (record != nullptr) *record = {};
+  return record;
 }
 
 inline void Release(void* block) { std::free(block); }

@@ -47,9 +47,9 @@ int32_t ASN1_GetAlgorithmIdentifier(const Anybuf* source, Anybuf** outOid, Anybu
       kind = ParameterKind::kNone;
     } else if (element.whole[0] == kSequence) {
       DerElements inner;
-      VELKORD_TRY(inner.OpenContent(element.content));
+      VELKORD_TRY(inner.OpenContent(element.Content()));
       kind = ParameterKind::kSequence;
-      parameter = element.content;
+      parameter = element.Content();
     } else {
       VELKORD_TRY(DerOpenContent(element, parameter));
       kind = ParameterKind::kObjectId;

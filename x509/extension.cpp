@@ -11,13 +11,18 @@ int32_t OpenExtension(Bytes in, ExtensionView& extension) {
   VELKORD_TRY(elements.Open(in, kSequenceType));
   VELKORD_TRY(DerNextContent(elements, extension.oid));
   extension.critical = Bytes();
-  if (elements.Count() == 3) {
+  DerElement value;
+  VELKORD_TRY(elements.Next(value));
+  // Of exactly three elements the second is the BOOLEAN.
+  DerElement third;
+  if (elements.Next(third) == VELKORD_OK && elements.AtEnd()) {
     Bytes boolean;
-    VELKORD_TRY(DerNextContent(elements, boolean));
+    VELKORD_TRY(DerOpenContent(value, boolean));
     if (boolean.empty()) return VELKORD_SIZE_MISMATCH;
     extension.critical = boolean.first(1);
+    value = third;
   }
-  return DerNextContent(elements, extension.value);
+  return DerOpenContent(value, extension.value);
 }
 
 }  // namespace velkord
@@ -39,11 +44,12 @@ int32_t ASN1_GetExtensionOne(int32_t /*id*/, const uint8_t* oid, uint32_t oidLen
   VELKORD_TRY(CallerBytes(oid, oidLength, oidBytes));
   VELKORD_TRY(CallerBytes(value, valueLength, valueBytes));
   const uint8_t boolean[] = {kBoolean, 1, static_cast<uint8_t>(critical)};
-  return DerJoin(
-      kSequence,
-      {DerHeader(kObjectId, oidLength).View(), oidBytes, boolean[2] != 0 ? Bytes(boolean) : Bytes(),
-       DerHeader(kOctetString, valueLength).View(), valueBytes},
-      out);
+  const DerHeaderOctets oidHeader(DerHeader(kObjectId, oidLength));
+  const DerHeaderOctets valueHeader(DerHeader(kOctetString, valueLength));
+  return DerJoin(kSequence,
+                 {oidHeader.View(), oidBytes, boolean[2] != 0 ? Bytes(boolean) : Bytes(),
+                  valueHeader.View(), valueBytes},
+                 out);
 }
 
 int32_t ASN1_GetExtension(const Anybuf* source, Anybuf** outOid, Anybuf** outCritical,

@@ -43,10 +43,10 @@ void CopyToBlock(Bytes bytes, uint8_t*& block, uint32_t& length) {
 void SetEntryValue(const DerElement& value, CertEntry& entry) {
   const uint8_t tag = value.whole[0];
   if (tag == kUtf8String || tag == kPrintableString) {
-    CopyToBlock(value.content, entry.value, entry.valueLen);
+    CopyToBlock(value.Content(), entry.value, entry.valueLen);
   } else if (tag == kBmpString) {
-    entry.value = AllocateBytes(value.content.size());
-    if (entry.value != nullptr) entry.valueLen = CopyBmpText(value.content, entry.value);
+    entry.value = AllocateBytes(value.Content().size());
+    if (entry.value != nullptr) entry.valueLen = CopyBmpText(value.Content(), entry.value);
   }
 }
 

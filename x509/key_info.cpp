@@ -28,7 +28,7 @@ int32_t ASN1_GetRSAPublicKey(const Anybuf* source, Anybuf** outModulus, Anybuf**
 int32_t ASN1_SetSubjectPublicKeyInfo(const Anybuf* algorithm, const Anybuf* key, Anybuf** out) {
   if (algorithm == nullptr || key == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
   const Bytes bits = NodeBytes(*key);
-  const DerHeader header = DerHeader::For(kBitString, bits, ImpliedUnusedBits(bits));
+  const DerHeaderOctets header(DerHeader::For(kBitString, bits, ImpliedUnusedBits(bits)));
   return DerJoin(kSequence, {NodeBytes(*algorithm), header.View(), bits}, out);
 }
 

@@ -61,7 +61,7 @@ int32_t ASN1_DecodeDerAttributeTypeAndValue(const Anybuf* source, Anybuf** outTy
   if (!IsNameString(value.tag)) return VELKORD_WRONG_TAG;
   NodePtr type;
   VELKORD_TRY(DerBuild(kObjectId, attribute.type, type.Out()));
-  VELKORD_TRY(DerBuild(static_cast<uint8_t>(value.tag), value.content, outValue));
+  VELKORD_TRY(DerBuild(static_cast<uint8_t>(value.tag), value.Content(), outValue));
   *outType = type.release();
   return VELKORD_OK;
 }
@@ -88,8 +88,8 @@ int32_t ASN1_GetDerRelativeDistinguishedNameOne(const Anybuf* value, int32_t /*i
   Anybuf* node;
   uint8_t* place;
   VELKORD_TRY(DerBuildHeader(DerHeader(kSet, attribute.Total()), &node, place));
-  place = Put(place, attribute.View());
-  place = Put(place, oid.View());
+  place = attribute.Put(place);
+  place = oid.Put(place);
   // A refused text stands for an identifier without content.
   if (oidSize != 0) place = PutObjectId(place, text);
   Put(place, valueBytes);
@@ -107,7 +107,7 @@ int32_t ASN1_DecodeDerRelativeDistinguishedNameOne(const Anybuf* source, uint8_t
   AttributeView attribute;
   VELKORD_TRY(OpenFirstAttribute(NodeBytes(*source), attribute));
   if (!IsNameString(attribute.value.tag)) return VELKORD_WRONG_TAG;
-  const Bytes content = attribute.value.content;
+  const Bytes content = attribute.value.Content();
   if (attribute.value.tag == kUtf8String) {
     utf8sToZhs(content.data(), static_cast<uint32_t>(content.size()), value, valueLength);
   } else {

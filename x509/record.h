@@ -92,15 +92,17 @@ inline Field OptionalField(uint32_t flag, const Anybuf* node) {
 
 // Makes the SEQUENCE of a record's fields. 0, -1, or -8 when a field is not set.
 inline int32_t JoinFields(std::initializer_list<Field> fields, Anybuf** out) {
+  uint64_t length = 0;
   for (const Field& field : fields) {
     if (!field.set) return VELKORD_NULL_ARGUMENT;
+    length += field.bytes.size();
   }
-  return DerJoinEach(
-      kSequence,
-      [&](auto visit) {
-        for (const Field& field : fields) visit(field.bytes);
-      },
-      out);
+  Anybuf* node;
+  uint8_t* place;
+  VELKORD_TRY(DerBuildHeader(DerHeader(kSequence, length), &node, place));
+  for (const Field& field : fields) place = Put(place, field.bytes);
+  *out = node;
+  return VELKORD_OK;
 }
 
 // Fills a field with the next element, a SEQUENCE, its length rewritten in shortest form.
@@ -108,7 +110,7 @@ inline int32_t JoinFields(std::initializer_list<Field> fields, Anybuf** out) {
 inline int32_t NextSequence(DerElements& elements, Anybuf*& field) {
   DerElement element;
   VELKORD_TRY(elements.Next(element));
-  return DerRewrap(kSequence, element.whole, &field);
+  return DerRewrap(kSequence, element, &field);
 }
 
 // Makes a record that `fill` fills, and when that fails nothing is left. 0, -7000, or the code of
@@ -129,8 +131,8 @@ int32_t DecodeRecord(const uint8_t* bytes, uint32_t length, Record** out, Fill f
   if (bytes == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
   return MakeRecord<kFree>(out, [&](Record& record) -> int32_t {
     DerElements elements;
-    VELKORD_TRY(elements.Open(Bytes(bytes, length), kSequenceType));
-    return fill(record, elements);
+    VELKORD_TRY(elements.OpenUnchecked(Bytes(bytes, length), kSequenceType));
+    return elements.Finish(fill(record, elements));
   });
 }
 

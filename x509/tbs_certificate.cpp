@@ -37,7 +37,7 @@ using Optionals = std::array<Optional, kTagNumbers>;
 int32_t OpenUniqueId(const DerElement& element, Bytes& bits) {
   if (!IsImplicitConstructed(element.tag)) return DerOpenImplicit(element, bits);
   DerElements inner;
-  VELKORD_TRY(inner.OpenContent(element.content));
+  VELKORD_TRY(inner.OpenContent(element.Content()));
   if (inner.AtEnd()) return VELKORD_SIZE_MISMATCH;
   DerElement first;
   VELKORD_TRY(inner.Next(first));
@@ -176,7 +176,7 @@ int32_t ASN1_TBSCertificateWriteData(const TBSCertificate* record, Anybuf** out)
 int32_t ASN1_TBSCertificateDecode(const Anybuf* source, TBSCertificate** out) {
   if (source == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
   DerElements elements;
-  VELKORD_TRY(elements.Open(NodeBytes(*source), kSequenceType));
+  VELKORD_TRY(elements.OpenUnchecked(NodeBytes(*source), kSequenceType));
   return MakeRecord<ASN1_FreeTBSCertificate>(
-      out, [&](TBSCertificate& record) { return Fill(record, elements); });
+      out, [&](TBSCertificate& record) { return elements.Finish(Fill(record, elements)); });
 }
