@@ -3,6 +3,9 @@
 #include <iconv.h>
 #endif
 
+#include <algorithm>
+#include <iterator>
+
 #include "hex.h"
 
 namespace {
@@ -47,6 +50,68 @@ TEST(Gb2312, MissesEndWhereTheSearchEnds) {
   uint32_t sum = 0;
   for (uint32_t gb = 0; gb <= 0xFFFF; ++gb) sum = sum * 31 + ctouni(gb);
   EXPECT_EQ(sum, 0xEFFB95C2U);
+}
+
+constexpr uint8_t kUntouched = 0x5A;
+
+ByteVector FromUtf8(const ByteVector& text) {
+  ByteVector out;
+  for (size_t at = 0; at < text.size();) {
+    constexpr uint8_t kFloors[] = {0xC0, 0xE0, 0xF0, 0xF8, 0xFC, 0xFE};
+    const auto* floor = std::upper_bound(std::begin(kFloors), std::end(kFloors), text[at]);
+    const auto longer = static_cast<size_t>(floor - std::begin(kFloors));
+    const size_t length = longer == 6 ? 1 : std::min(longer + 1, text.size() - at);
+    uint32_t code = 0;
+    const int32_t read = utf8ToUni(&text[at], static_cast<int32_t>(length), &code);
+    const uint32_t gb = read > 0 ? unitoc(code) : 0;
+    if (gb != 0) out.push_back(static_cast<uint8_t>(gb >> 8));
+    out.push_back(gb != 0 ? static_cast<uint8_t>(gb) : text[at]);
+    at += length;
+  }
+  return out;
+}
+
+ByteVector ToUtf8(const ByteVector& text) {
+  ByteVector out;
+  for (size_t at = 0; at + 1 < text.size(); at += 2) {
+    uint8_t form[6];
+    const int32_t size = uniToUTF8(form, 6, ctouni(zhToWc(&text[at], 2)));
+    out.insert(out.end(), form, form + size);
+  }
+  return out;
+}
+
+// Both conversions of a whole text are those of its characters, well formed or not, and leave what
+// lies behind their result alone.
+TEST(Gb2312, TextsAreConvertedAsTheirCharactersAre) {
+  const std::vector<std::string> pieces = {
+      "A", "plain ASCII", "\xE5\x95\x8A", "\xE2\x82\xAC", "\xC3\xA9", "\xF0\x9F\x98\x80",
+      "\xFC\x80\x80\x80\x80\x80",
+      // Longer than need be, of a character that the table has.
+      "\xE0\x82\xA4", "\xC1\x81", "\xE5\x41\x8A", "\xE5\x95", "\xE5", "\xFF", "\x80"};
+  uint32_t state = 1;
+  const auto next = [&] { return (state = state * 1103515245 + 12345) >> 16; };
+  for (int round = 0; round < 3000; ++round) {
+    ByteVector text;
+    for (uint32_t left = next() % 40; left != 0; --left) {
+      const std::string& piece = pieces[next() % (1 + next() % pieces.size())];
+      text.insert(text.end(), piece.begin(), piece.end());
+    }
+    ByteVector out(text.size(), kUntouched);
+    uint32_t size = 0;
+    utf8sToZhs(text.data(), static_cast<uint32_t>(text.size()), out.data(), &size);
+    ByteVector wanted = FromUtf8(text);
+    ASSERT_EQ(size, wanted.size());
+    wanted.resize(out.size(), kUntouched);
+    ASSERT_EQ(out, wanted) << round;
+
+    out.assign(text.size() / 2 * 3, kUntouched);
+    zhsToUtf8s(text.data(), static_cast<int32_t>(text.size()), out.data(), &size);
+    wanted = ToUtf8(text);
+    ASSERT_EQ(size, wanted.size());
+    wanted.resize(out.size(), kUntouched);
+    ASSERT_EQ(out, wanted) << round;
+  }
 }
 
 }  // namespace
