@@ -70,9 +70,12 @@ class Gb2312CodePoints {
       rowStart_[byte] = static_cast<uint16_t>(row * kColumns);
       column_[byte] = static_cast<uint8_t>(byte < kFirstByte ? 0 : byte - kFirstByte + 1);
     }
+    for (const Gb2312Pair& pair : kGb2312Pairs) {
+      codes_[rowStart_[pair.gb >> 8] + size_t{column_[pair.gb & 0xFF]}] = pair.code;
+    }
     for (uint32_t at = 0; at < codes_.size(); ++at) {
       const uint32_t gb = (kFirstRow + at / kColumns) << 8 | (kFirstByte - 1 + at % kColumns);
-      codes_[at] = static_cast<uint16_t>(SearchGb2312(gb));
+      if (codes_[at] == 0) codes_[at] = static_cast<uint16_t>(SearchGb2312(gb));
     }
   }
 
