@@ -68,6 +68,20 @@ def known_cases():
         for name, text in texts.items():
             cases[f"{way}_{name}"] = Case(
                 f"{title}, {text}", "character", None, {"iconv": 3, "icu": 1.3})
+
+    for name, title in {
+            "ctouni": "One GB2312 code to its code point",
+            "unitoc": "One code point to its GB2312 code",
+            "integer_write": "INTEGER written",
+            "integer_read": "INTEGER read",
+            "object_id_write": "OBJECT IDENTIFIER written",
+            "object_id_to_bytes": "OBJECT IDENTIFIER, text to octets",
+            "string_write": "UTF8String written",
+            "string_read": "UTF8String read",
+            "time_write": "UTCTime written",
+            "time_read": "UTCTime read",
+    }.items():
+        cases[name] = Case(title, "call")
     return cases
 
 
@@ -261,7 +275,8 @@ def main():
     times = read_times(Path(sys.argv[1]))
     cases = known_cases()
     for name in times:
-        cases.setdefault(name, Case(name, "item"))
+        if name not in cases:
+            sys.exit(f"{name}: unknown case")
     rows = [(case, times[name]) for name, case in cases.items() if name in times]
     if not rows:
         sys.exit(f"{sys.argv[1]} holds no medians")
