@@ -22,7 +22,8 @@ uint8_t* PutTwoDigits(uint8_t* place, int value) {
 
 int TwoDigits(Bytes text, size_t at) { return (text[at] - '0') * 10 + (text[at + 1] - '0'); }
 
-// The fields in the text of a time, whatever their values.
+// The fields in the text of a time, whatever their values. Those that it does not have stay as they
+// are.
 int32_t ReadFields(Bytes in, std::tm& fields) {
   uint32_t tag;
   uint32_t length;
@@ -36,7 +37,6 @@ int32_t ReadFields(Bytes in, std::tm& fields) {
   const Bytes fieldDigits = in.first(digits);
   if (!std::all_of(fieldDigits.begin(), fieldDigits.end(), isDigit)) return VELKORD_BAD_TIME;
 
-  fields = {};
   if (yearDigits == 4) {
     fields.tm_year = TwoDigits(in, 0) * 100 + TwoDigits(in, 2) - kYearBase;
   } else {
@@ -104,7 +104,7 @@ int32_t TimeWriteNode(int32_t time, uint8_t tag, Anybuf** out) {
 }
 
 int32_t TimeRead(Bytes in, int32_t& time) {
-  std::tm fields;
+  std::tm fields{};
   return ReadTimeFields(in, fields, time);
 }
 
@@ -121,7 +121,7 @@ int32_t TimeReadByFirstOctet(Bytes in, uint32_t dataType, uint8_t& form, int32_t
 int32_t TimeRewrite(Bytes in, uint32_t dataType, Anybuf** out) {
   const uint8_t form = FormByFirstOctet(in);
   VELKORD_TRY(CheckForm(form, dataType));
-  std::tm fields;
+  std::tm fields{};
   int32_t time;
   VELKORD_TRY(ReadTimeFields(in, fields, time));
   TimeElement element;

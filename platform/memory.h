@@ -27,7 +27,7 @@ Record* Allocate() {
 template <typename Record>
 Record* AllocateZeroed() {
   auto* record = Allocate<Record>();
-  if (record != nullptr) *record = {};
+  if (record != nullptr) *record = Record();
   return record;
 }
 
