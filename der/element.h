@@ -77,20 +77,19 @@ int32_t DerOpenAnyElement(Bytes in, DerElement& element);
 inline int32_t DerOpenElement(Bytes in, DerElement& element) {
   const size_t size = in.size();
   if (size >= 2 && !IsLongTag(in[0])) {
-    size_t header = 0;
-    size_t length = in[1];
-    if (length < 0x80) {
-      header = 2;
-    } else if (length == 0x82 && size >= 4) {
+    size_t header = 2;
+    size_t whole = header + in[1];
+    if (in[1] == 0x82 && size >= 4) {
       header = 4;
-      length = size_t{in[2]} << 8 | in[3];
-    } else if (length == 0x81 && size >= 3) {
+      whole = header + (size_t{in[2]} << 8 | in[3]);
+    } else if (in[1] == 0x81 && size >= 3) {
       header = 3;
-      length = in[2];
+      whole = header + in[2];
     }
-    if (header != 0) {
-      if (length > size - header) return VELKORD_SIZE_MISMATCH;
-      element = {ReduceTag(in[0]), header, in.first(header + length)};
+    // cppcheck-suppress knownConditionTrueFalse ; it takes no account of the branches above
+    if (header != 2 || in[1] < 0x80) {
+      if (whole > size) return VELKORD_SIZE_MISMATCH;
+      element = {ReduceTag(in[0]), header, in.first(whole)};
       return VELKORD_OK;
     }
   }
