@@ -4,6 +4,7 @@
 #include <string>
 
 #include "blocks.h"
+#include "text/base64.h"
 
 namespace {
 
@@ -32,6 +33,18 @@ void Base64(Input in) {
   Buffer again(DecodedRoom(encoded.room - 1));
   DecodeBase64(reinterpret_cast<const char*>(encoded.bytes.get()), again);
   REQUIRE(Same(again.View(), in));
+
+  for (const velkord::Base64Kernel& kernel : velkord::Base64Kernels()) {
+    Buffer other(decoded.room);
+    other.size =
+        velkord::DecodeBase64(kernel, text, velkord::Strangers::kTakePlaces, other.bytes.get());
+    REQUIRE(Same(other.View(), decoded.View()) && other.IsUntouched(other.size));
+    Buffer same(encoded.room - 1);
+    char* place = reinterpret_cast<char*>(same.bytes.get());
+    same.size =
+        static_cast<uint32_t>(velkord::PutBase64(kernel, in.data(), in.size(), place) - place);
+    REQUIRE(Same(same.View(), Input(encoded.bytes.get(), encoded.room - 1)));
+  }
 }
 
 // Whether the text is a PEM block, which is then in `out`.
