@@ -35,12 +35,11 @@ uint32_t ImpliedUnusedBits(Bytes bits) {
 uint8_t* DerHeader::Put(uint8_t* place) const {
   const auto length = static_cast<uint32_t>(contentLength_);
   *place++ = tag_;
-  if (length < 0x80) {
+  if (lengthSize_ == 1) {
     *place++ = static_cast<uint8_t>(length);
   } else {
-    const uint32_t octets = DerLengthSize(length) - 1;
-    *place++ = static_cast<uint8_t>(0x80 | octets);
-    for (uint32_t left = octets; left != 0; --left) {
+    *place++ = static_cast<uint8_t>(0x80 | (lengthSize_ - 1));
+    for (uint32_t left = lengthSize_ - 1; left != 0; --left) {
       *place++ = static_cast<uint8_t>(length >> 8 * (left - 1));
     }
   }

@@ -52,7 +52,11 @@ uint32_t ImpliedUnusedBits(Bytes bits);
 // The header of an element: tag and length octets, and the octet that the content has in front.
 class DerHeader {
  public:
-  DerHeader(uint8_t tag, uint64_t contentLength) : tag_(tag), contentLength_(contentLength) {}
+  // A length beyond 32 bits is refused by whoever makes the element, which is never smaller.
+  DerHeader(uint8_t tag, uint64_t contentLength)
+      : tag_(tag),
+        lengthSize_(DerLengthSize(static_cast<uint32_t>(contentLength))),
+        contentLength_(contentLength) {}
   // With the unused-bits octet of a BIT STRING.
   static DerHeader ForBitString(uint32_t unusedBits, uint64_t bitsLength) {
     return {kBitString, bitsLength + 1, static_cast<uint8_t>(unusedBits)};
@@ -70,20 +74,20 @@ class DerHeader {
 
   uint8_t Tag() const { return tag_; }
   // Size of the whole element.
-  uint64_t Total() const {
-    // A length beyond 32 bits is refused by whoever makes the element, which is never smaller.
-    return 1 + DerLengthSize(static_cast<uint32_t>(contentLength_)) + contentLength_;
-  }
+  uint64_t Total() const { return 1 + lengthSize_ + contentLength_; }
   // Writes the header and gives the place behind it.
   uint8_t* Put(uint8_t* place) const;
 
  private:
-  DerHeader(uint8_t tag, uint64_t contentLength, uint8_t octet)
-      : tag_(tag), hasOctet_(true), octet_(octet), contentLength_(contentLength) {}
+  DerHeader(uint8_t tag, uint64_t contentLength, uint8_t octet) : DerHeader(tag, contentLength) {
+    hasOctet_ = true;
+    octet_ = octet;
+  }
 
   uint8_t tag_;
   bool hasOctet_ = false;
   uint8_t octet_ = 0;
+  uint32_t lengthSize_;
   uint64_t contentLength_;
 };
 
