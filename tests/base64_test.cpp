@@ -102,6 +102,21 @@ TEST(Base64, EveryKernelAgreesAtEveryLengthAndAlignment) {
   }
 }
 
+TEST(Base64, EveryKernelWritesFullLines) {
+  const Octets bytes = Sample(8 * kLineBytes);
+  std::string text;
+  for (size_t lines = 0; lines <= 8; ++lines) {
+    for (const Base64Kernel& kernel : Base64Kernels()) {
+      const EndOfBlock in(lines, bytes.data(), lines * kLineBytes);
+      const EndOfBlock out(lines, text.size());
+      kernel.encodeLines(in.Bytes(), lines, out.Text());
+      ASSERT_EQ(std::string(out.Text(), text.size()), text);
+    }
+    const auto line = bytes.begin() + static_cast<ptrdiff_t>(lines * kLineBytes);
+    if (lines < 8) text += PlainEncode(Octets(line, line + kLineBytes)) + "\r\n";
+  }
+}
+
 TEST(Base64, EveryKernelAgreesOnEveryCharacterAtEveryPlace) {
   // Two blocks and a half of the widest kernel.
   const std::string clean = PlainEncode(Sample(63));
