@@ -31,7 +31,9 @@
 
 #include <stdint.h>
 
-#if defined(_WIN32) && defined(VELKORD_BUILD)
+#if defined(VELKORD_STATIC)
+#define VELKORD_EXPORT
+#elif defined(_WIN32) && defined(VELKORD_BUILD)
 #define VELKORD_EXPORT __declspec(dllexport)
 #elif defined(_WIN32)
 #define VELKORD_EXPORT __declspec(dllimport)

@@ -1,0 +1,41 @@
+# What `cmake --install` puts where.
+
+include(CMakePackageConfigHelpers)
+include(GNUInstallDirs)
+
+set(package ${CMAKE_INSTALL_LIBDIR}/cmake/Velkord)
+
+# The runtime is what a program needs that was built elsewhere, the rest is for building one.
+install(TARGETS Velkord EXPORT VelkordTargets
+  RUNTIME COMPONENT runtime
+  LIBRARY COMPONENT runtime NAMELINK_COMPONENT development
+  ARCHIVE COMPONENT development
+  INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(FILES ${PROJECT_SOURCE_DIR}/include/Velkord.h
+  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
+if(WIN32 AND NOT VELKORD_STATIC)
+  install(FILES $<TARGET_FILE_DIR:Velkord>/Velkord.def
+    DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
+endif()
+
+install(EXPORT VelkordTargets NAMESPACE Velkord::
+  DESTINATION ${package} COMPONENT development)
+configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/VelkordConfig.cmake.in
+  ${PROJECT_BINARY_DIR}/VelkordConfig.cmake INSTALL_DESTINATION ${package})
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/VelkordConfigVersion.cmake
+  COMPATIBILITY SameMajorVersion)
+install(FILES
+  ${PROJECT_BINARY_DIR}/VelkordConfig.cmake
+  ${PROJECT_BINARY_DIR}/VelkordConfigVersion.cmake
+  DESTINATION ${package} COMPONENT development)
+
+# Its own folder tells where the rest is, so that the whole may be moved.
+file(RELATIVE_PATH prefix_from_pc
+  /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
+string(REGEX REPLACE "/$" "" prefix_from_pc "${prefix_from_pc}")
+if(VELKORD_STATIC)
+  set(pc_cflags " -DVELKORD_STATIC")
+endif()
+configure_file(${PROJECT_SOURCE_DIR}/cmake/velkord.pc.in ${PROJECT_BINARY_DIR}/velkord.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/velkord.pc
+  DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
