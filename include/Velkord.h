@@ -1,5 +1,6 @@
-/// @file Velkord.h
-/// The whole boundary of Velkord: DER structures of a public-key infrastructure as plain C99.
+/// @mainpage Velkord
+/// The whole boundary of Velkord: DER structures of a public-key infrastructure as plain C99. The
+/// functions are grouped by family under Modules.
 ///
 /// **Nodes.** Every DER value travels in an `Anybuf`. A *TLV node* holds one whole element: tag
 /// octets, length octets and content. A *content node* holds content octets alone. The node does
@@ -50,6 +51,11 @@
 extern "C" {
 #endif
 
+// -------------------------------------------------------------------------------------------------
+/// @defgroup codes Return codes
+/// @{
+// -------------------------------------------------------------------------------------------------
+
 /// Return codes.
 enum {
   VELKORD_OK = 0,        ///< Success.
@@ -64,8 +70,11 @@ enum {
   VELKORD_OUT_OF_MEMORY = -7000  ///< Out of memory for a record; a time the platform refuses.
 };
 
+/// @}
+
 // -------------------------------------------------------------------------------------------------
-// Records
+/// @defgroup records Records
+/// @{
 // -------------------------------------------------------------------------------------------------
 
 /// The value node.
@@ -81,14 +90,14 @@ typedef struct Anybuf {
 
 /// An object identifier: a number of the caller's, then the fields of a content node.
 typedef struct ObjectID {
-  int32_t id;     ///< The caller's; 0 from `ASN1_ReadObjectId`.
-  uint8_t* data;  ///< Content octets, owned by the record.
-  uint32_t dataLen;
-  uint32_t unusedBits;
-  uint32_t memKind;
-  uint32_t dataType;
-  struct Anybuf* next;
-  struct Anybuf* prev;
+  int32_t id;           ///< The caller's; 0 from `ASN1_ReadObjectId`.
+  uint8_t* data;        ///< Content octets, owned by the record.
+  uint32_t dataLen;     ///< Number of octets at `data`.
+  uint32_t unusedBits;  ///< As in a node.
+  uint32_t memKind;     ///< As in a node.
+  uint32_t dataType;    ///< As in a node.
+  struct Anybuf* next;  ///< As in a node.
+  struct Anybuf* prev;  ///< As in a node.
 } ObjectID;
 
 /// One attribute of a name. Owns both nodes.
@@ -190,27 +199,27 @@ typedef struct PKCS7Context {
 /// An RSA public key: big-endian numbers. Encoding takes each from its field's end, with zero bytes
 /// in front; decoding puts each at its field's start, with zero bytes behind.
 typedef struct ZantPublicKey {
-  uint8_t modulus[256];
-  uint8_t publicExponent[256];
+  uint8_t modulus[256];         ///< n.
+  uint8_t publicExponent[256];  ///< e.
 } ZantPublicKey;
 
 /// An RSA private key, its numbers placed as in `ZantPublicKey`.
 typedef struct ZantPrivateKey {
-  uint8_t modulus[256];
-  uint8_t publicExponent[256];
-  uint8_t privateExponent[256];
-  uint8_t prime1[128];
-  uint8_t prime2[128];
-  uint8_t exponent1[128];
-  uint8_t exponent2[128];
-  uint8_t coefficient[128];
+  uint8_t modulus[256];          ///< n.
+  uint8_t publicExponent[256];   ///< e.
+  uint8_t privateExponent[256];  ///< d.
+  uint8_t prime1[128];           ///< p.
+  uint8_t prime2[128];           ///< q.
+  uint8_t exponent1[128];        ///< d mod (p - 1).
+  uint8_t exponent2[128];        ///< d mod (q - 1).
+  uint8_t coefficient[128];      ///< The inverse of q mod p.
 } ZantPrivateKey;
 
 /// The public key of an elliptic curve of 256 bits: the coordinates big-endian at full width.
 typedef struct EccPubkey {
   uint32_t bits;  ///< 256 after decoding; encoding does not read it.
-  uint8_t x[32];
-  uint8_t y[32];
+  uint8_t x[32];  ///< The X coordinate.
+  uint8_t y[32];  ///< The Y coordinate.
 } EccPubkey;
 
 /// The private key of an elliptic curve of 256 bits.
@@ -221,54 +230,57 @@ typedef struct EccPrikey {
 
 /// One subject attribute of an inspected certificate.
 typedef struct CertEntry {
-  uint8_t* oid;  ///< OBJECT IDENTIFIER content octets.
-  uint32_t oidLen;
-  uint8_t* value;  ///< The value's bytes; null when its type is not read.
-  uint32_t valueLen;
+  uint8_t* oid;            ///< OBJECT IDENTIFIER content octets.
+  uint32_t oidLen;         ///< Number of octets at `oid`.
+  uint8_t* value;          ///< The value's bytes; null when its type is not read.
+  uint32_t valueLen;       ///< Number of bytes at `value`.
   struct CertEntry* next;  ///< Null on the last.
 } CertEntry;
 
 /// A list entry of the caller's own, released with the record that holds it.
 typedef struct CertWideEntry {
-  uint8_t* block1;
-  uintptr_t word2;
-  uint8_t* block3;
-  uintptr_t word4;
-  uintptr_t word5;
-  struct CertWideEntry* next;
+  uint8_t* block1;             ///< Released with the entry.
+  uintptr_t word2;             ///< The caller's.
+  uint8_t* block3;             ///< Released with the entry.
+  uintptr_t word4;             ///< The caller's.
+  uintptr_t word5;             ///< The caller's.
+  struct CertWideEntry* next;  ///< Null on the last.
 } CertWideEntry;
 
 /// A caller's view of a decoded certificate: 23 words, each as wide as a pointer. The library reads
 /// `tbs` and fills `subjectEntries`; `X509CertFree` releases all named fields, whose blocks must
 /// come from `malloc`. The numbered words are the caller's.
 typedef struct X509Cert {
-  uintptr_t word1;
-  uintptr_t word2;
-  uintptr_t word3;
-  uint8_t* block1;
-  uintptr_t word5;
-  uintptr_t word6;
-  uint8_t* block2;
-  uintptr_t word8;
-  TBSCertificate* tbs;  ///< Set by the caller; then owned by the record.
-  uintptr_t word10;
-  uintptr_t word11;
-  uintptr_t word12;
-  uint8_t* block3;
-  uintptr_t word14;
-  CertEntry* entriesA;
+  uintptr_t word1;            ///< The caller's.
+  uintptr_t word2;            ///< The caller's.
+  uintptr_t word3;            ///< The caller's.
+  uint8_t* block1;            ///< Released with the record.
+  uintptr_t word5;            ///< The caller's.
+  uintptr_t word6;            ///< The caller's.
+  uint8_t* block2;            ///< Released with the record.
+  uintptr_t word8;            ///< The caller's.
+  TBSCertificate* tbs;        ///< Set by the caller; then owned by the record.
+  uintptr_t word10;           ///< The caller's.
+  uintptr_t word11;           ///< The caller's.
+  uintptr_t word12;           ///< The caller's.
+  uint8_t* block3;            ///< Released with the record.
+  uintptr_t word14;           ///< The caller's.
+  CertEntry* entriesA;        ///< Released with the record.
   CertEntry* subjectEntries;  ///< Filled by `X509CertGetSubject`.
-  uintptr_t word17;
-  uintptr_t word18;
-  uint8_t* block4;
-  uintptr_t word20;
-  uint8_t* block5;
-  uintptr_t word22;
-  CertWideEntry* entriesB;
+  uintptr_t word17;           ///< The caller's.
+  uintptr_t word18;           ///< The caller's.
+  uint8_t* block4;            ///< Released with the record.
+  uintptr_t word20;           ///< The caller's.
+  uint8_t* block5;            ///< Released with the record.
+  uintptr_t word22;           ///< The caller's.
+  CertWideEntry* entriesB;    ///< Released with the record.
 } X509Cert;
 
+/// @}
+
 // -------------------------------------------------------------------------------------------------
-// Value nodes
+/// @defgroup nodes Value nodes
+/// @{
 // -------------------------------------------------------------------------------------------------
 
 /// Makes a content node with a copy of `length` bytes. `dataType` is `type` as it stands. For type
@@ -284,8 +296,12 @@ VELKORD_API void ASN1_FreeAnybuf(Anybuf* node);
 /// Releases a record and its `data`; `next` is not followed.
 VELKORD_API void ASN1_FreeObjectID(ObjectID* record);
 
+/// @}
+
 // -------------------------------------------------------------------------------------------------
-// INTEGER: unsigned magnitudes, big-endian
+/// @defgroup integers INTEGER
+/// Unsigned magnitudes, big-endian.
+/// @{
 // -------------------------------------------------------------------------------------------------
 
 /// Gives the DER content octets of `value`, 1 to 5 of them, and their count in a cell of its own.
@@ -309,8 +325,12 @@ VELKORD_API int32_t ASN1_WriteIntegerArrayFromBytes(const uint8_t* bytes, uint32
                                                     Anybuf** out);
 /// @}
 
+/// @}
+
 // -------------------------------------------------------------------------------------------------
-// SEQUENCE and SET: chains of TLV nodes
+/// @defgroup sequences SEQUENCE and SET
+/// Chains of TLV nodes.
+/// @{
 // -------------------------------------------------------------------------------------------------
 
 /// Starts a chain with a copy of `element`; its `next` is not followed. Free with
@@ -354,8 +374,11 @@ VELKORD_API int32_t ASN1_WriteSequenceFromDERBytes(const uint8_t* bytes, uint32_
 VELKORD_API int32_t ASN1_WriteSetFromDERData(const uint8_t* bytes, uint32_t length, Anybuf** out);
 /// @}
 
+/// @}
+
 // -------------------------------------------------------------------------------------------------
-// OBJECT IDENTIFIER
+/// @defgroup object_ids OBJECT IDENTIFIER
+/// @{
 // -------------------------------------------------------------------------------------------------
 
 /// Turns dotted text of `textLength` characters into content octets; blanks may stand for points.
@@ -384,8 +407,11 @@ VELKORD_API int32_t ASN1_ReadObjectId(const Anybuf* source, ObjectID** out);
 VELKORD_API int32_t ASN1_ReadObjectIdToBytes(const Anybuf* source, uint8_t* out,
                                              uint32_t* outLength);
 
+/// @}
+
 // -------------------------------------------------------------------------------------------------
-// Byte and character strings, ENUMERATED, BOOLEAN, NULL
+/// @defgroup strings Byte and character strings, ENUMERATED, BOOLEAN, NULL
+/// @{
 // -------------------------------------------------------------------------------------------------
 
 /// Makes a TLV node over a content node of any type. CharString is PrintableString.
@@ -481,8 +507,11 @@ VELKORD_API int32_t ASN1_ReadUTF8StringToBytes(const Anybuf* source, uint8_t* ou
 VELKORD_API int32_t ASN1_ReadBmpStringToBytes(const Anybuf* source, uint8_t* out,
                                               uint32_t* outLength);
 
+/// @}
+
 // -------------------------------------------------------------------------------------------------
-// Tags and raw DER
+/// @defgroup tags Tags and raw DER
+/// @{
 // -------------------------------------------------------------------------------------------------
 
 /// Makes a TLV node of tag octet `tagNumber | 0xA0` around the source's bytes, or around plain
@@ -540,8 +569,12 @@ VELKORD_API int32_t ASN1_WriteUTF8StringFromDERBytes(const uint8_t* bytes, uint3
                                                      Anybuf** out);
 /// @}
 
+/// @}
+
 // -------------------------------------------------------------------------------------------------
-// Time: seconds since 1 January 1970 against local time text
+/// @defgroup time Time
+/// Seconds since 1 January 1970 against local time text.
+/// @{
 // -------------------------------------------------------------------------------------------------
 
 /// Makes the TLV node of a time. The text is the machine's local time followed by "Z", so it is UTC
@@ -560,8 +593,11 @@ VELKORD_API int32_t ASN1_ReadGeneralizedTime(const Anybuf* source, int32_t* time
 VELKORD_API int32_t ASN1_ReadUtcTime(const Anybuf* source, int32_t* time);
 /// @}
 
+/// @}
+
 // -------------------------------------------------------------------------------------------------
-// Names
+/// @defgroup names Names
+/// @{
 // -------------------------------------------------------------------------------------------------
 
 /// Makes a record with copies of two TLV nodes. Free with `ASN1_FreeAttributeTypeAndValue`.
@@ -647,8 +683,11 @@ VELKORD_API void ASN1_FreeRSAPublicKey(Anybuf* chain);
 VELKORD_API void ASN1_FreeValidity(Anybuf* chain);
 /// @}
 
+/// @}
+
 // -------------------------------------------------------------------------------------------------
-// Validity, algorithm and key info
+/// @defgroup key_info Validity, algorithm and key info
+/// @{
 // -------------------------------------------------------------------------------------------------
 
 /// Makes the SEQUENCE TLV node of two TLV nodes: notBefore and notAfter, or modulus and exponent.
@@ -698,8 +737,11 @@ VELKORD_API int32_t ASN1_SetSubjectPublicKeyInfo(const Anybuf* algorithm, const 
 VELKORD_API int32_t ASN1_GetSubjectPublicKeyInfo(const Anybuf* source, Anybuf** outAlgorithm,
                                                  Anybuf** outKey);
 
+/// @}
+
 // -------------------------------------------------------------------------------------------------
-// Extensions
+/// @defgroup extensions Extensions
+/// @{
 // -------------------------------------------------------------------------------------------------
 
 /// Makes an Extension TLV node of an OID, a BOOLEAN, which may be null, and an OCTET STRING, all
@@ -722,8 +764,11 @@ VELKORD_API int32_t ASN1_GetExtensionOne(int32_t id, const uint8_t* oid, uint32_
 VELKORD_API int32_t ASN1_GetExtension(const Anybuf* source, Anybuf** outOid, Anybuf** outCritical,
                                       Anybuf** outValue);
 
+/// @}
+
 // -------------------------------------------------------------------------------------------------
-// Certificates: the signed part
+/// @defgroup certificates Certificates: the signed part
+/// @{
 // -------------------------------------------------------------------------------------------------
 
 /// Makes an empty record. Free with `ASN1_FreeTBSCertificate`. Returns 0, -7000 (memory) or -8.
@@ -778,9 +823,13 @@ VELKORD_API int32_t ASN1_TBSCertificateWriteData(const TBSCertificate* record, A
 /// elements 3 to 7 is no SEQUENCE), -7000 (memory) or -8.
 VELKORD_API int32_t ASN1_TBSCertificateDecode(const Anybuf* source, TBSCertificate** out);
 
+/// @}
+
 // -------------------------------------------------------------------------------------------------
-// The signed whole of certificates, revocation lists, PKCS#10 certification requests and PKCS#6
-// extended certificates. It has one shape: what is signed, the algorithm and the signature.
+/// @defgroup signed_wholes Signed wholes
+/// Certificates, revocation lists, PKCS#10 certification requests and PKCS#6 extended certificates
+/// have one shape: what is signed, the algorithm and the signature.
+/// @{
 // -------------------------------------------------------------------------------------------------
 
 /// Makes an empty record. Free with the function of the same type. Returns 0, -7000 (memory) or -8.
@@ -858,8 +907,11 @@ VELKORD_API int32_t ASN1_PKCS6_CertificateDecode(const uint8_t* bytes, uint32_t 
                                                  ExtendedCertificate** out);
 /// @}
 
+/// @}
+
 // -------------------------------------------------------------------------------------------------
-// Certificate inspection
+/// @defgroup inspection Certificate inspection
+/// @{
 // -------------------------------------------------------------------------------------------------
 
 /// Makes an empty record and also stores it in `out`, which may be null. Free with `X509CertFree`.
@@ -887,8 +939,11 @@ VELKORD_API int32_t X509CertGetSubject(X509Cert* record);
 VELKORD_API int32_t X509CertGetOIDValue(const X509Cert* record, const char* oidText,
                                         int32_t textLength, uint8_t* value, uint32_t* valueLength);
 
+/// @}
+
 // -------------------------------------------------------------------------------------------------
-// Revocation lists: an entry
+/// @defgroup list_entries Revocation lists: an entry
+/// @{
 // -------------------------------------------------------------------------------------------------
 
 /// Makes an empty record. Free with `ASN1_CRL_FreeRevokedCertificate`. Returns 0, -7000 (memory) or
@@ -931,8 +986,11 @@ VELKORD_API int32_t ASN1_CRL_RevokedCertificateWriteData(const RevokedCertificat
 VELKORD_API int32_t ASN1_CRL_RevokedCertificateDecode(const uint8_t* bytes, uint32_t length,
                                                       RevokedCertificate** out);
 
+/// @}
+
 // -------------------------------------------------------------------------------------------------
-// Revocation lists: the signed part
+/// @defgroup lists Revocation lists: the signed part
+/// @{
 // -------------------------------------------------------------------------------------------------
 
 /// Makes an empty record. Free with `ASN1_CRL_FreeTbsCertList`. Returns 0, -7000 (memory) or -8.
@@ -982,8 +1040,11 @@ VELKORD_API int32_t ASN1_CRL_TbsCertListWriteData(const TbsCertList* record, Any
 VELKORD_API int32_t ASN1_CRL_TbsCertListDecode(const uint8_t* bytes, uint32_t length,
                                                TbsCertList** out);
 
+/// @}
+
 // -------------------------------------------------------------------------------------------------
-// PKCS#10: the signed part
+/// @defgroup requests PKCS#10: the signed part
+/// @{
 // -------------------------------------------------------------------------------------------------
 
 /// Makes an empty record. Free with `ASN1_FreePKCS10`. Returns 0, -7000 (memory) or -8.
@@ -1021,8 +1082,11 @@ VELKORD_API int32_t ASN1_PKCS10WriteData(const PKCS10* record, Anybuf** out);
 /// SEQUENCE), -7000 (memory) or -8 (also null bytes of length 0).
 VELKORD_API int32_t ASN1_PKCS10Decode(const uint8_t* bytes, uint32_t length, PKCS10** out);
 
+/// @}
+
 // -------------------------------------------------------------------------------------------------
-// PKCS#6: the signed part
+/// @defgroup extended_certificates PKCS#6: the signed part
+/// @{
 // -------------------------------------------------------------------------------------------------
 
 /// Makes an empty record. Free with `ASN1_PKCS6_FreeExtendedCertificateInfo`. Returns 0, -7000
@@ -1060,8 +1124,11 @@ VELKORD_API int32_t ASN1_PKCS6_CertificateInfoWriteData(const ExtendedCertificat
 VELKORD_API int32_t ASN1_PKCS6_CertificateInfoDecode(const uint8_t* bytes, uint32_t length,
                                                      ExtendedCertificateInfo** out);
 
+/// @}
+
 // -------------------------------------------------------------------------------------------------
-// PKCS#7: the ContentInfo around a message
+/// @defgroup messages PKCS#7: the ContentInfo around a message
+/// @{
 // -------------------------------------------------------------------------------------------------
 
 /// Makes an empty record. Free with `ASN1_PKCS7_FreeContext`. Returns 0, -7000 (memory) or -8.
@@ -1090,8 +1157,12 @@ VELKORD_API int32_t ASN1_PKCS7_WriteData(const PKCS7Context* record, Anybuf** ou
 /// bytes of length 0).
 VELKORD_API int32_t ASN1_PKCS7_Decode(const uint8_t* bytes, uint32_t length, PKCS7Context** out);
 
+/// @}
+
 // -------------------------------------------------------------------------------------------------
-// RSA keys. A null argument gives -1, and nothing is allocated.
+/// @defgroup rsa_keys RSA keys
+/// A null argument gives -1, and nothing is allocated.
+/// @{
 // -------------------------------------------------------------------------------------------------
 
 /// Writes the DER of a key to `der` and its size to `derLen`: RSAPublicKey, at most 526 bytes, or
@@ -1115,8 +1186,12 @@ VELKORD_API int32_t ZantDecodePublicKey(ZantPublicKey* key, const uint8_t* der, 
 VELKORD_API int32_t ZantDecodePrivateKey(ZantPrivateKey* key, const uint8_t* der, int32_t derLen);
 /// @}
 
+/// @}
+
 // -------------------------------------------------------------------------------------------------
-// Keys of elliptic curves. Nothing is allocated.
+/// @defgroup ec_keys Keys of elliptic curves
+/// Nothing is allocated.
+/// @{
 // -------------------------------------------------------------------------------------------------
 
 /// Writes the 312 bytes of a SubjectPublicKeyInfo to `der` and 312 to `derLen`. It states one
@@ -1137,9 +1212,13 @@ VELKORD_API int32_t ASN1_Der2EccPubkey(const uint8_t* der, uint32_t derLen, EccP
 /// is null.
 VELKORD_API int32_t ASN1_Der2EccPrikey(const uint8_t* der, uint32_t derLen, EccPrikey* key);
 
+/// @}
+
 // -------------------------------------------------------------------------------------------------
-// SM2. The result is always 0. What cannot be done, an argument being null or the DER malformed,
-// leaves all out arguments alone: preset the lengths to 0. Nothing is allocated.
+/// @defgroup sm2 SM2
+/// The result is always 0. What cannot be done, an argument being null or the DER malformed, leaves
+/// all out arguments alone: preset the lengths to 0. Nothing is allocated.
+/// @{
 // -------------------------------------------------------------------------------------------------
 
 /// Writes the SEQUENCE of two positive INTEGERs to `der`, which needs room for both numbers and 20
@@ -1174,8 +1253,12 @@ VELKORD_API int32_t ASN1_SM2_PubkeyEncode(const uint8_t* x, uint32_t xLen, const
 VELKORD_API int32_t ASN1_SM2_PubkeyDecode(uint8_t* x, uint32_t* xLen, uint8_t* y, uint32_t* yLen,
                                           const uint8_t* der, uint32_t derLen);
 
+/// @}
+
 // -------------------------------------------------------------------------------------------------
-// Base64 and PEM. No argument may be null, but for input of length 0.
+/// @defgroup base64 Base64 and PEM
+/// No argument may be null, but for input of length 0.
+/// @{
 // -------------------------------------------------------------------------------------------------
 
 /// Writes Base64 text and a terminating zero to `out`, without line breaks. `out` needs 4 bytes for
@@ -1205,10 +1288,14 @@ VELKORD_API int32_t DER2PEM_data_format(const uint8_t* der, uint32_t length, cha
 VELKORD_API int32_t PEM2DER_data_format(const char* pem, uint32_t length, uint8_t* out,
                                         uint32_t* outLength);
 
+/// @}
+
 // -------------------------------------------------------------------------------------------------
-// Character sets. A GB code is the first byte of a GB2312 character in bits 8 to 15 and the second
-// in bits 0 to 7. UTF-8 is the form of up to six bytes, for code points of up to 31 bits. No
-// argument may be null unless it says so, and no function adds a terminating zero.
+/// @defgroup character_sets Character sets
+/// A GB code is the first byte of a GB2312 character in bits 8 to 15 and the second in bits 0 to 7.
+/// UTF-8 is the form of up to six bytes, for code points of up to 31 bits. No argument may be null
+/// unless it says so, and no function adds a terminating zero.
+/// @{
 // -------------------------------------------------------------------------------------------------
 
 /// Writes the UTF-8 form of a code point to `out`, which has room for `outSize` bytes. With a null
@@ -1243,6 +1330,8 @@ VELKORD_API void zhsToUtf8s(const uint8_t* in, int32_t inLen, uint8_t* out, uint
 /// input, leaves its first byte. `in` may be null, which gives `outLen` 0. `out` needs `inLen`
 /// bytes.
 VELKORD_API void utf8sToZhs(const uint8_t* in, uint32_t inLen, uint8_t* out, uint32_t* outLen);
+
+/// @}
 
 #ifdef __cplusplus
 }  // extern "C"
