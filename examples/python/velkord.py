@@ -1,0 +1,299 @@
+"""The functions of Velkord under their own names, taking bytes and giving bytes.
+
+Arguments come in the order of include/Velkord.h. Two kinds are left out: a length that follows
+bytes, and what the function hands out, which comes back: None, one value, or a tuple of several.
+
+- Bytes are given as bytes, text as bytes or str.
+- A node or a record is a Handle, and None is the null pointer. A Handle releases what it holds, so
+  no Free function is called. Its attributes are the fields; what they point to lives as long as it
+  does, or until a setter replaces it. A number can be set, and a null pointer can be set to a
+  Handle, which then belongs to the record. bytes(node) gives a node's bytes, and a loop over a node
+  walks through its chain. An empty chain is None.
+- The record of a key is a structure of velkord_api that the caller makes and the function fills.
+- Bytes that the function did not write come back as None.
+
+A return code below 0 raises VelkordError. The library is $VELKORD_LIBRARY, or found by its name.
+"""
+import ctypes
+import os
+import weakref
+
+import velkord_api
+
+CODES = {code: name for name, code in vars(velkord_api).items() if name.startswith("VELKORD_")}
+
+# No function writes more than twice what it reads, but for what surrounds it and for the numbers of
+# a key, which are less than this.
+ROOM = 2048
+NOT_WRITTEN = 0xFFFFFFFF
+
+
+class VelkordError(Exception):
+    def __init__(self, function, code):
+        super().__init__(f"{function}: {CODES.get(code, code)}")
+        self.function = function
+        self.code = code
+
+
+def _load():
+    usual = ["Velkord.dll"] if os.name == "nt" else ["libVelkord.so.1", "libVelkord.so"]
+    named = os.environ.get("VELKORD_LIBRARY")
+    for name in [named] if named else usual:
+        try:
+            return ctypes.CDLL(name)
+        except OSError as error:
+            failure = error
+    raise ImportError(f"{failure} (VELKORD_LIBRARY may tell where the library is)")
+
+
+library = _load()
+velkord_api.declare(library)
+_c_library = ctypes.CDLL("msvcrt" if os.name == "nt" else None)
+_c_library.free.argtypes = [ctypes.c_void_p]
+
+# A function that takes one record and gives nothing releases it; those of nodes are all the same.
+_FREE_NAMES = {
+    name for name, (result, arguments) in velkord_api.FUNCTIONS.items()
+    if result is None and len(arguments) == 1
+}
+_FREE = {
+    function.argtypes[0]._type_: function
+    for function in (getattr(library, name) for name in sorted(_FREE_NAMES))
+}
+
+
+def _is_pointer(kind):
+    return hasattr(kind, "contents")
+
+
+def _number(kind, value):
+    number = kind(value)
+    if number.value != value:
+        raise OverflowError(f"{value} does not fit {kind.__name__}")
+    return number
+
+
+class Handle:
+    """A node or a record: one that owns what it holds, or a view of what another owns."""
+
+    def __init__(self, pointer, owner=None):
+        self._pointer = pointer
+        self._owner = owner
+        self._release = None
+        if owner is None:
+            self._release = weakref.finalize(self, _FREE[pointer._type_], pointer)
+
+    def __getattr__(self, name):
+        record = self._pointer.contents
+        value = getattr(record, name)
+        if not _is_pointer(type(value)):
+            return bytes(value) if isinstance(value, ctypes.Array) else value
+        if not value:
+            return None
+        if type(value) is ctypes.POINTER(ctypes.c_uint8):
+            return ctypes.string_at(value, getattr(record, name + "Len"))
+        return Handle(value, self._owner or self)
+
+    def __setattr__(self, name, value):
+        if name.startswith("_"):
+            super().__setattr__(name, value)
+            return
+        record = self._pointer.contents
+        kind = dict(record._fields_)[name]
+        if not _is_pointer(kind):
+            setattr(record, name, _number(kind, value).value)
+            return
+        # A record that is put into another belongs to that one from then on.
+        if value._release is None or getattr(record, name):
+            raise ValueError(f"{name}: only an owner can be put where nothing is")
+        setattr(record, name, value._pointer)
+        value._release.detach()
+        value._release = None
+        value._owner = self._owner or self
+
+    def __bytes__(self):
+        return self.data or b""
+
+    def __iter__(self):
+        node = self
+        while node is not None:
+            yield node
+            node = node.next
+
+
+def _size(value):
+    """How many bytes of an argument a function may copy to its results."""
+    if isinstance(value, bytes):
+        return len(value)
+    if isinstance(value, Handle):
+        if value._pointer._type_ is velkord_api.X509Cert:
+            return _size(value.tbs and value.tbs.extensions)
+        return getattr(value, "dataLen", 0)
+    return 0
+
+
+class _Call:
+    """The arguments of one call, put together from the values that are given."""
+
+    def __init__(self, name, values):
+        self.name = name
+        self.result, arguments = velkord_api.FUNCTIONS[name]
+        values = [value.encode() if isinstance(value, str) else value for value in values]
+        self.room = ROOM + 2 * sum(map(_size, values))
+        self.values = iter(values)
+        self.passed = []
+        self.readers = []  # One for each result.
+        self.before = None  # The bytes or the buffer that a length may follow.
+        for kind in arguments.values():
+            self.before = self.add(kind)
+        if next(self.values, self) is not self:
+            raise TypeError(f"{name}: too many arguments")
+
+    def value(self):
+        try:
+            return next(self.values)
+        except StopIteration:
+            raise TypeError(f"{self.name}: too few arguments") from None
+
+    def add(self, kind):
+        target = getattr(kind, "_type_", None) if _is_pointer(kind) else None
+        if kind is ctypes.c_char_p:
+            value = self.value()
+            self.passed.append(value)
+            return value or b""
+        if target is None:
+            is_length = isinstance(self.before, bytes)
+            value = len(self.before) if is_length else self.value()
+            self.passed.append(_number(kind, value))
+        elif _is_pointer(target):
+            cell = target()
+            self.passed.append(ctypes.byref(cell))
+            self.readers.append(lambda: Handle(cell) if cell else None)
+        elif issubclass(target, ctypes.Structure):
+            value = self.value()
+            if isinstance(value, Handle):
+                value = value._pointer
+            self.passed.append(value)
+        elif target in (ctypes.c_char, ctypes.c_uint8):
+            buffer = (target * self.room)()
+            self.passed.append(buffer)
+            is_text = target is ctypes.c_char
+            self.readers.append(lambda: buffer.value if is_text else buffer[0])
+            return buffer
+        else:
+            self.add_number(target, self.before)
+        return None
+
+    def add_number(self, target, buffer):
+        if buffer is None:
+            cell = target()
+            self.readers.append(lambda: cell.value)
+        else:
+            cell = target(NOT_WRITTEN)
+            self.readers[-1] = lambda: (
+                None if cell.value == NOT_WRITTEN else bytes(memoryview(buffer)[:cell.value]))
+        self.passed.append(ctypes.byref(cell))
+
+    def run(self):
+        code = getattr(library, self.name)(*self.passed)
+        if self.result is ctypes.c_int32 and code < 0:
+            raise VelkordError(self.name, code)
+        results = [read() for read in self.readers]
+        if self.result is ctypes.c_uint32:
+            results.insert(0, code)
+        return tuple(results) if len(results) > 1 else results[0] if results else None
+
+
+# -------------------------------------------------------------------------------------------------
+# Functions of another shape
+# -------------------------------------------------------------------------------------------------
+
+
+def Asn1LowIntToChar(value):
+    octets = ctypes.POINTER(ctypes.c_uint8)()
+    length = ctypes.POINTER(ctypes.c_uint32)()
+    code = library.Asn1LowIntToChar(
+        _number(ctypes.c_uint32, value), ctypes.byref(octets), ctypes.byref(length))
+    if code < 0:
+        raise VelkordError("Asn1LowIntToChar", code)
+    try:
+        return ctypes.string_at(octets, length.contents.value)
+    finally:
+        _c_library.free(octets)
+        _c_library.free(length)
+
+
+def ASN1_OBJECT_a2d(text):
+    octets = _Call("ASN1_OBJECT_a2d", [text]).run()
+    if not octets:
+        raise ValueError(f"not an object identifier: {text}")
+    return octets
+
+
+def _write_time(name, time):
+    node = ctypes.POINTER(velkord_api.Anybuf)()
+    code = getattr(library, name)(
+        ctypes.byref(_number(ctypes.c_int32, time)), ctypes.byref(node))
+    if code < 0:
+        raise VelkordError(name, code)
+    return Handle(node)
+
+
+def ASN1_WriteGeneralizedTime(time):
+    return _write_time("ASN1_WriteGeneralizedTime", time)
+
+
+def ASN1_WriteUtcTime(time):
+    return _write_time("ASN1_WriteUtcTime", time)
+
+
+def ASN1_SetAlgorithmIdentifier(mode, oid, alternative=None, parameter=None):
+    """The object identifier stays the caller's: the library is given a copy that it may release."""
+    copy = oid and _Call("ASN1_CreateAnybuf", [bytes(oid), oid.dataType]).run()
+    values = [mode, copy, alternative, parameter]
+    algorithm = _Call("ASN1_SetAlgorithmIdentifier", values).run()
+    if parameter is not None or mode != 1:
+        copy._release.detach()
+    return algorithm
+
+
+def X509CertCreate():
+    record = library.X509CertCreate(None)
+    if not record:
+        raise VelkordError("X509CertCreate", velkord_api.VELKORD_OUT_OF_MEMORY)
+    return Handle(record)
+
+
+def uniToUTF8(code):
+    form = (ctypes.c_uint8 * 6)()
+    size = library.uniToUTF8(form, len(form), _number(ctypes.c_uint32, code))
+    if size < 0:
+        raise ValueError(f"not a code point: {code}")
+    return bytes(form[:size])
+
+
+def utf8ToUni(text):
+    """Gives the number of bytes that were read, and the code point."""
+    text = text.encode() if isinstance(text, str) else text
+    code = ctypes.c_uint32()
+    size = library.utf8ToUni(text, len(text), ctypes.byref(code))
+    if size <= 0:
+        raise ValueError(f"no UTF-8 form at the start of {text[:6]}")
+    return size, code.value
+
+
+# -------------------------------------------------------------------------------------------------
+# All others
+# -------------------------------------------------------------------------------------------------
+
+
+def _bind(name):
+    def function(*values):
+        return _Call(name, values).run()
+
+    function.__name__ = name
+    return function
+
+
+for _name in velkord_api.FUNCTIONS.keys() - _FREE_NAMES - globals().keys():
+    globals()[_name] = _bind(_name)
