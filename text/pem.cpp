@@ -61,11 +61,11 @@ int32_t DER2PEM_data_format(const uint8_t* der, uint32_t length, char* out, uint
 
   char* place = PutMarker(out, header);
   const Base64Kernel& kernel = Base64Kernels().front();
-  const uint32_t lines = length / kLineBytes;
-  const uint32_t rest = length % kLineBytes;
+  const size_t lines = length / kLineBytes;
+  const size_t rest = length % kLineBytes;
   kernel.encodeLines(der, lines, place);
-  der += size_t{lines} * kLineBytes;
-  place += size_t{lines} * (kLineCharacters + 2);
+  der += lines * kLineBytes;
+  place += lines * (kLineCharacters + 2);
   if (rest != 0) place = PutLineEnd(PutBase64(kernel, der, rest, place));
   place = PutMarker(place, footer);
   *place = '\0';
