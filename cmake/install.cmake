@@ -11,7 +11,7 @@ install(TARGETS Velkord EXPORT VelkordTargets
   LIBRARY COMPONENT runtime NAMELINK_COMPONENT development
   ARCHIVE COMPONENT development
   INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-install(FILES ${PROJECT_SOURCE_DIR}/include/Velkord.h
+install(FILES ${PROJECT_SOURCE_DIR}/include/Velkord.h ${PROJECT_SOURCE_DIR}/include/velkord.hpp
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
 if(WIN32 AND NOT VELKORD_STATIC)
   install(FILES $<TARGET_FILE_DIR:Velkord>/Velkord.def

@@ -3,10 +3,11 @@
 #include <time.h>
 
 #include <array>
-#include <utility>
 
 #include "issuing.h"
-#include "result_codes.h"
+#include "velkord.hpp"
+
+using velkord::ChainBuilder, velkord::Check, velkord::Length, velkord::Make, velkord::NodePtr;
 
 namespace {
 
@@ -27,18 +28,12 @@ std::array<uint8_t, 16> SerialNumber() {
 
 NodePtr Validity() {
   const int64_t now = time(nullptr);
-  NodePtr validity;
-  Check(ASN1_SetValidity(UtcTime(now).get(), UtcTime(now + kSecondsOfYear).get(), Out(validity)),
-        "write the validity");
-  return validity;
+  return Make("write the validity", ASN1_SetValidity, UtcTime(now).get(),
+              UtcTime(now + kSecondsOfYear).get());
 }
 
 NodePtr BasicConstraints() {
-  NodePtr isAuthority;
-  Check(ASN1_WriteBoolean(&kTrue, Out(isAuthority)), "write the authority flag");
-  NodeChain chain;
-  chain.Append(std::move(isAuthority));
-  return Sequence(chain);
+  return Sequence(ChainBuilder(Make("write the authority flag", ASN1_WriteBoolean, &kTrue)));
 }
 
 // digitalSignature is bit 0, counted from the highest; keyCertSign and cRLSign are bits 5 and 6.
@@ -48,24 +43,20 @@ NodePtr KeyUsage() {
 }
 
 NodePtr Extensions(const Anybuf& publicKey) {
-  NodeChain chain;
-  chain.Append(Extension(kBasicConstraintsId, kCritical, *BasicConstraints()));
-  chain.Append(Extension(kKeyUsageId, kCritical, *KeyUsage()));
-  chain.Append(
+  const ChainBuilder chain(
+      Extension(kBasicConstraintsId, kCritical, *BasicConstraints()),
+      Extension(kKeyUsageId, kCritical, *KeyUsage()),
       Extension(kSubjectKeyIdentifierId, kNotCritical, *OctetString(KeyIdentifier(publicKey))));
-  NodePtr list;
-  Check(ASN1_WriteExtensions(chain.Head(), Out(list)), "write the extensions");
-  return list;
+  return Make("write the extensions", ASN1_WriteExtensions, chain.Head());
 }
 
 NodePtr SignedPart(std::string_view commonName, const SigningKey& key) {
   const std::array<uint8_t, 16> serial = SerialNumber();
   const NodePtr name = Name(commonName);
   const NodePtr publicKey = RsaPublicKey(key);
-  TbsPtr tbs;
-  Check(ASN1_CreateTBSCertificate(Out(tbs)), "create the signed part");
+  const auto tbs = Make("create the signed part", ASN1_CreateTBSCertificate);
   Check(ASN1_TBSCertificateSetVersion(tbs.get(), kVersion3), "set the version");
-  Check(ASN1_TBSCertificateSetSerialNumber(tbs.get(), serial.data(), Length32(serial.size())),
+  Check(ASN1_TBSCertificateSetSerialNumber(tbs.get(), serial.data(), Length(serial)),
         "set the serial number");
   Check(ASN1_TBSCertificateSetSignatureAlg(tbs.get(), Algorithm(kSha256WithRsaEncryptionId).get()),
         "set the signature algorithm");
@@ -76,9 +67,7 @@ NodePtr SignedPart(std::string_view commonName, const SigningKey& key) {
         "set the public key");
   Check(ASN1_TBSCertificateSetExtensions(tbs.get(), Extensions(*publicKey).get()),
         "set the extensions");
-  NodePtr node;
-  Check(ASN1_TBSCertificateWriteData(tbs.get(), Out(node)), "write the signed part");
-  return node;
+  return Make("write the signed part", ASN1_TBSCertificateWriteData, tbs.get());
 }
 
 }  // namespace

@@ -4,11 +4,11 @@
 
 #include <string_view>
 
-#include "handles.h"
 #include "signing_key.h"
+#include "velkord.hpp"
 
 // Valid for a year from now on. Times are written as local time: call UseUtc before. Throws
 // std::runtime_error naming the step that failed.
-NodePtr AuthorityCertificate(std::string_view commonName, const SigningKey& key);
+velkord::NodePtr AuthorityCertificate(std::string_view commonName, const SigningKey& key);
 
 #endif  // VELKORD_EXAMPLES_AUTHORITY_CERTIFICATE_H_

@@ -1,29 +1,33 @@
 #include "certificate_parts.h"
 
 #include <string>
+#include <system_error>
 
 #include "node_bytes.h"
-#include "result_codes.h"
 #include "signed_whole.h"
+#include "velkord.hpp"
+
+using velkord::Bytes, velkord::Check, velkord::Errc, velkord::Handle, velkord::Length,
+    velkord::Make, velkord::NodePtr, velkord::Out, velkord::ToErrorCode;
 
 namespace {
 
 constexpr uint32_t kIntegerTag = 2;
 constexpr uint32_t kVersionTag = 0xA0;
 
-TbsPtr DecodeTbs(const Anybuf& source) {
-  TbsPtr tbs;
+Handle<TBSCertificate> DecodeTbs(const Anybuf& source) {
+  Handle<TBSCertificate> tbs;
   const int32_t code = ASN1_TBSCertificateDecode(&source, Out(tbs));
   if (code == VELKORD_OK && tbs->versionNode->dataType == kVersionTag) return tbs;
 
   // Version 1 is the default value, so its element is left out and the serial number comes first,
   // where the decoder looks for the version.
-  NodePtr elements;
-  Check(ASN1_ReadSequence(&source, Out(elements)), "split the signed part");
+  const NodePtr elements = Make("split the signed part", ASN1_ReadSequence, &source);
   const bool isVersion1 = elements != nullptr && elements->dataType == kIntegerTag;
-  Fail(isVersion1 ? "decode the signed part, which has no version element (version 1)"
-                  : "decode the signed part",
-       code == VELKORD_OK ? VELKORD_WRONG_TAG : code);
+  throw std::system_error(ToErrorCode(code == VELKORD_OK ? VELKORD_WRONG_TAG : code),
+                          isVersion1
+                              ? "decode the signed part, which has no version element (version 1)"
+                              : "decode the signed part");
 }
 
 uint32_t ReadVersion(const TBSCertificate& tbs) {
@@ -37,11 +41,10 @@ uint32_t ReadVersion(const TBSCertificate& tbs) {
 
 NodePtr RebuildTbs(const CertificateParts& parts) {
   const TBSCertificate& from = parts.Tbs();
-  TbsPtr tbs;
-  Check(ASN1_CreateTBSCertificate(Out(tbs)), "create the signed part");
+  const auto tbs = Make("create the signed part", ASN1_CreateTBSCertificate);
   Check(ASN1_TBSCertificateSetVersion(tbs.get(), parts.version), "set the version");
   Check(ASN1_TBSCertificateSetSerialNumber(tbs.get(), parts.serialNumber.data(),
-                                           Length32(parts.serialNumber.size())),
+                                           Length(parts.serialNumber)),
         "set the serial number");
   Check(ASN1_TBSCertificateSetSignatureAlg(tbs.get(), from.signature),
         "set the signature algorithm");
@@ -61,23 +64,21 @@ NodePtr RebuildTbs(const CertificateParts& parts) {
   if (const NodePtr list = ReadExtensionList(from)) {
     Check(ASN1_TBSCertificateSetExtensions(tbs.get(), list.get()), "set the extensions");
   }
-  NodePtr written;
-  Check(ASN1_TBSCertificateWriteData(tbs.get(), Out(written)), "write the signed part");
-  return written;
+  return Make("write the signed part", ASN1_TBSCertificateWriteData, tbs.get());
 }
 
 }  // namespace
 
 CertificateParts ReadCertificateParts(Bytes der) {
   CertificateParts parts;
-  Check(ASN1_CertificateDecode(der.data(), Length32(der.size()), Out(parts.certificate)),
+  Check(ASN1_CertificateDecode(der.data(), Length(der), Out(parts.certificate)),
         "decode the certificate");
-  TbsPtr tbs = DecodeTbs(*parts.certificate->tbsCertificate);
+  Handle<TBSCertificate> tbs = DecodeTbs(*parts.certificate->tbsCertificate);
   parts.version = ReadVersion(*tbs);
   parts.serialNumber = NodeContent(*tbs->serialNumber, "read the serial number");
 
   parts.view.reset(X509CertCreate(nullptr));
-  if (parts.view == nullptr) Fail("create the view", VELKORD_OUT_OF_MEMORY);
+  if (parts.view == nullptr) throw std::system_error(Errc::kOutOfMemory, "create the view");
   parts.view->tbs = tbs.release();
   Check(X509CertGetSubject(parts.view.get()), "list the subject");
   return parts;
@@ -91,8 +92,7 @@ NodePtr RebuildCertificate(const CertificateParts& parts) {
 NodePtr ReadExtensionList(const TBSCertificate& tbs) {
   if (tbs.hasExtensions != 1) return nullptr;
   // A decoded record holds the list one SEQUENCE deeper than the setter takes it.
-  NodePtr list;
-  Check(ASN1_ReadSequence(tbs.extensions, Out(list)), "open the extensions");
-  if (list == nullptr) Fail("open the extensions", VELKORD_FAILURE);
+  NodePtr list = Make("open the extensions", ASN1_ReadSequence, tbs.extensions);
+  if (list == nullptr) throw std::system_error(Errc::kFailure, "open the extensions");
   return list;
 }

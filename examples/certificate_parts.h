@@ -4,12 +4,12 @@
 
 #include <vector>
 
-#include "handles.h"
 #include "readable_text.h"
+#include "velkord.hpp"
 
 struct CertificateParts {
-  CertificatePtr certificate;
-  X509CertPtr view;  // Owns the signed part and the subject's entries.
+  velkord::Handle<Certificate> certificate;
+  velkord::Handle<X509Cert> view;  // Owns the signed part and the subject's entries.
   uint32_t version = 0;
   std::vector<uint8_t> serialNumber;
 
@@ -17,12 +17,12 @@ struct CertificateParts {
 };
 
 // Both throw std::runtime_error naming the step that failed and its code.
-CertificateParts ReadCertificateParts(Bytes der);
+CertificateParts ReadCertificateParts(velkord::Bytes der);
 
 // Writes the certificate again from the parts alone: each goes through its setter into new records.
-NodePtr RebuildCertificate(const CertificateParts& parts);
+velkord::NodePtr RebuildCertificate(const CertificateParts& parts);
 
 // The node around the list of extensions in a decoded record, empty when there is none.
-NodePtr ReadExtensionList(const TBSCertificate& tbs);
+velkord::NodePtr ReadExtensionList(const TBSCertificate& tbs);
 
 #endif  // VELKORD_EXAMPLES_CERTIFICATE_PARTS_H_

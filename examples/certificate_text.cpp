@@ -3,27 +3,28 @@
 #include <sstream>
 
 #include "object_ids.h"
-#include "result_codes.h"
 #include "structure_text.h"
+#include "velkord.hpp"
+
+using velkord::Bytes, velkord::Chain, velkord::Make, velkord::NodePtr;
 
 namespace {
 
 // One entry for the first attribute of each relative name, as the library lists them.
 void PutSubject(std::ostream& out, const X509Cert& view) {
   out << "  subject:\n";
-  for (const CertEntry* entry = view.subjectEntries; entry != nullptr; entry = entry->next) {
-    out << "    " << ObjectIdText(Bytes(entry->oid, entry->oidLen)) << ": ";
-    if (entry->value == nullptr) {
+  for (const CertEntry& entry : Chain(view.subjectEntries)) {
+    out << "    " << ObjectIdText(Bytes(entry.oid, entry.oidLen)) << ": ";
+    if (entry.value == nullptr) {
       out << "(no UTF8String, PrintableString or BMPString)\n";
     } else {
-      out << EscapedText(Bytes(entry->value, entry->valueLen)) << '\n';
+      out << EscapedText(Bytes(entry.value, entry.valueLen)) << '\n';
     }
   }
 }
 
 void PutValidity(std::ostream& out, const Anybuf& validity) {
-  NodePtr times;
-  Check(ASN1_ReadSequence(&validity, Out(times)), "split the validity");
+  const NodePtr times = Make("split the validity", ASN1_ReadSequence, &validity);
   const Anybuf* notAfter = times == nullptr ? nullptr : times->next;
   out << "  not before: " << TimeText(times.get(), "read notBefore") << '\n'
       << "  not after: " << TimeText(notAfter, "read notAfter") << '\n';

@@ -23,13 +23,15 @@
 #include "list_parts.h"
 #include "list_text.h"
 #include "message_text.h"
-#include "node_bytes.h"
 #include "pem_blocks.h"
 #include "request_parts.h"
 #include "request_text.h"
 #include "secret.h"
 #include "signature_text.h"
 #include "utc.h"
+#include "velkord.hpp"
+
+using velkord::Bytes, velkord::NodePtr, velkord::View;
 
 namespace {
 
@@ -63,10 +65,6 @@ struct Reading {
 void Report(Tally& tally, std::string_view place, std::string_view problem) {
   std::cerr << place << ": " << problem << '\n';
   tally.anyError = true;
-}
-
-Bytes AsBytes(std::string_view text) {
-  return Bytes(reinterpret_cast<const uint8_t*>(text.data()), text.size());
 }
 
 // Without a buffer of its own the file leaves no copy of what it held.
@@ -122,7 +120,7 @@ Reading Read(Kind kind, Bytes der) {
 
 void PutRebuilt(const Anybuf& rebuilt, Bytes der, Tally& tally) {
   ++tally.rebuilt;
-  const bool identical = std::ranges::equal(NodeBytes(rebuilt), der);
+  const bool identical = std::ranges::equal(View(rebuilt), der);
   if (identical) ++tally.identical;
   std::cout << "  rebuilt: " << (identical ? "identical" : "different") << '\n';
 }
@@ -137,7 +135,7 @@ void InspectDer(Bytes der, std::string_view place, std::optional<std::string_vie
   std::cout << place << ": " << KindName(kind) << '\n' << reading.text;
   if (reading.rebuilt != nullptr) PutRebuilt(*reading.rebuilt, der, tally);
   if (label.has_value() && !IsUsualLabel(kind, *label)) {
-    std::cout << "  remark: its label is \"" << EscapedText(AsBytes(*label)) << "\"\n";
+    std::cout << "  remark: its label is \"" << EscapedText(View(*label)) << "\"\n";
   }
   std::cout << '\n';
 }

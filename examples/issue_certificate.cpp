@@ -9,6 +9,7 @@
 #include "pem_file.h"
 #include "signing_key.h"
 #include "utc.h"
+#include "velkord.hpp"
 
 namespace {
 
@@ -22,7 +23,7 @@ int IssueCertificate(std::span<char*> arguments) {
   UseUtc();
   const std::string_view commonName = arguments.size() > 1 ? arguments[1] : kDefaultCommonName;
   const SigningKey key;
-  const NodePtr certificate = AuthorityCertificate(commonName, key);
+  const velkord::NodePtr certificate = AuthorityCertificate(commonName, key);
   WritePemFile(arguments[0], "CERTIFICATE", *certificate);
   std::cout << arguments[0] << ": certificate of \"" << commonName << "\", " << certificate->dataLen
             << " bytes of DER\n";

@@ -6,14 +6,15 @@
 #include <iostream>
 #include <span>
 #include <string_view>
-#include <utility>
 
 #include "authority_certificate.h"
 #include "command_line.h"
 #include "issuing.h"
 #include "pem_file.h"
-#include "result_codes.h"
 #include "utc.h"
+#include "velkord.hpp"
+
+using velkord::ChainBuilder, velkord::Check, velkord::Make, velkord::NodePtr;
 
 namespace {
 
@@ -33,29 +34,21 @@ constexpr uint32_t kListNumber = 1;
 // Each entry at a multiple of this has a reason: keyCompromise, superseded, cessationOfOperation.
 constexpr uint32_t kReasonEvery = 5;
 constexpr uint8_t kReasons[] = {1, 4, 5};
+constexpr uint8_t kNoType = 0;
 
 // The value by which version 2 of a list is numbered.
 constexpr uint32_t kListVersion2 = 1;
 
-NodePtr Integer(uint32_t value) {
-  NodePtr node;
-  Check(ASN1_WriteInteger(value, Out(node)), "write a number");
-  return node;
-}
+NodePtr Integer(uint32_t value) { return Make("write a number", ASN1_WriteInteger, value); }
 
 NodePtr EntryExtensions(uint8_t reason) {
-  NodePtr content;
-  NodePtr code;
-  Check(ASN1_CreateAnybuf(&reason, 1, 0, Out(content)), "hold the reason");
-  Check(ASN1_WriteEnumerated(content.get(), Out(code)), "write the reason");
-  NodeChain chain;
-  chain.Append(Extension(kReasonCodeId, kNotCritical, *code));
-  return Sequence(chain);
+  const NodePtr content = Make("hold the reason", ASN1_CreateAnybuf, &reason, 1U, kNoType);
+  const NodePtr code = Make("write the reason", ASN1_WriteEnumerated, content.get());
+  return Sequence(ChainBuilder(Extension(kReasonCodeId, kNotCritical, *code)));
 }
 
 NodePtr Entry(uint32_t number, int64_t now) {
-  RevokedCertificatePtr entry;
-  Check(ASN1_CRL_CreateRevokedCertificate(Out(entry)), "create an entry");
+  const auto entry = Make("create an entry", ASN1_CRL_CreateRevokedCertificate);
   Check(ASN1_CRL_SetRevokedCertificateCertificateSerialNumber(
             entry.get(), Integer(kFirstSerialNumber + number).get()),
         "set an entry's serial number");
@@ -68,52 +61,39 @@ NodePtr Entry(uint32_t number, int64_t now) {
                                                            EntryExtensions(reason).get()),
           "set an entry's extensions");
   }
-  NodePtr node;
-  Check(ASN1_CRL_RevokedCertificateWriteData(entry.get(), Out(node)), "write an entry");
-  return node;
+  return Make("write an entry", ASN1_CRL_RevokedCertificateWriteData, entry.get());
 }
 
 NodePtr Entries(int64_t now) {
-  NodeChain chain;
+  ChainBuilder chain;
   for (uint32_t number = 0; number < kEntries; ++number) chain.Append(Entry(number, now));
   return Sequence(chain);
 }
 
 // The identifier stands under [0] IMPLICIT.
 NodePtr AuthorityKeyIdentifier(const SigningKey& key) {
-  NodePtr identifier;
-  Check(
-      ASN1_WriteImplicit(OctetString(KeyIdentifier(*RsaPublicKey(key))).get(), 0, Out(identifier)),
-      "write the authority's key identifier");
-  NodeChain chain;
-  chain.Append(std::move(identifier));
-  return Sequence(chain);
+  return Sequence(ChainBuilder(Make("write the authority's key identifier", ASN1_WriteImplicit,
+                                    OctetString(KeyIdentifier(*RsaPublicKey(key))).get(), 0U)));
 }
 
 NodePtr ListExtensions(const SigningKey& key) {
-  NodeChain chain;
-  chain.Append(Extension(kAuthorityKeyIdentifierId, kNotCritical, *AuthorityKeyIdentifier(key)));
-  chain.Append(Extension(kCrlNumberId, kNotCritical, *Integer(kListNumber)));
-  return Sequence(chain);
+  return Sequence(
+      ChainBuilder(Extension(kAuthorityKeyIdentifierId, kNotCritical, *AuthorityKeyIdentifier(key)),
+                   Extension(kCrlNumberId, kNotCritical, *Integer(kListNumber))));
 }
 
 // A list with extensions has to be of version 2, which the standard numbers by the value 1. The
 // library's setter writes the value 2 alone, so the version is left out there and put in front
 // here.
 NodePtr WithVersion2(const Anybuf& signedPart) {
-  const NodePtr elements = Integer(kListVersion2);
-  NodePtr behind;
-  Check(ASN1_ReadSequence(&signedPart, Out(behind)), "split the signed part");
-  elements->next = behind.release();
-  NodePtr node;
-  Check(ASN1_WriteSequence(elements.get(), Out(node)), "write the signed part with its version");
-  return node;
+  const ChainBuilder elements(Integer(kListVersion2),
+                              Make("split the signed part", ASN1_ReadSequence, &signedPart));
+  return Make("write the signed part with its version", ASN1_WriteSequence, elements.Head());
 }
 
 NodePtr SignedPart(const SigningKey& key) {
   const int64_t now = time(nullptr);
-  TbsCertListPtr tbs;
-  Check(ASN1_CRL_CreateTbsCertList(Out(tbs)), "create the signed part");
+  const auto tbs = Make("create the signed part", ASN1_CRL_CreateTbsCertList);
   Check(ASN1_CRL_TbsCertListSetSignatureAlgorithmIdentifier(
             tbs.get(), Algorithm(kSha256WithRsaEncryptionId).get()),
         "set the signature algorithm");
@@ -125,8 +105,7 @@ NodePtr SignedPart(const SigningKey& key) {
         "set the entries");
   Check(ASN1_CRL_TbsCertListSetCrlExtensions(tbs.get(), ListExtensions(key).get()),
         "set the extensions");
-  NodePtr node;
-  Check(ASN1_CRL_TbsCertListWriteData(tbs.get(), Out(node)), "write the signed part");
+  const NodePtr node = Make("write the signed part", ASN1_CRL_TbsCertListWriteData, tbs.get());
   return WithVersion2(*node);
 }
 

@@ -3,12 +3,14 @@
 #include <iostream>
 #include <span>
 #include <string_view>
-#include <utility>
 
 #include "command_line.h"
 #include "issuing.h"
 #include "pem_file.h"
-#include "result_codes.h"
+#include "velkord.hpp"
+
+using velkord::ChainBuilder, velkord::Check, velkord::Length, velkord::Make, velkord::NodePtr,
+    velkord::View;
 
 namespace {
 
@@ -31,45 +33,30 @@ NodePtr KeyUsage() {
 
 // A host's name is an IA5String under [2] IMPLICIT.
 NodePtr SubjectAltName() {
-  NodePtr text;
-  NodePtr name;
-  Check(ASN1_WriteIa5StringFromBytes(reinterpret_cast<const uint8_t*>(kHostName.data()),
-                                     Length32(kHostName.size()), Out(text)),
-        "write the host's name");
-  Check(ASN1_WriteImplicit(text.get(), kDnsNameTag, Out(name)), "tag the host's name");
-  NodeChain chain;
-  chain.Append(std::move(name));
-  return Sequence(chain);
+  const NodePtr text = Make("write the host's name", ASN1_WriteIa5StringFromBytes,
+                            View(kHostName).data(), Length(kHostName));
+  return Sequence(
+      ChainBuilder(Make("tag the host's name", ASN1_WriteImplicit, text.get(), kDnsNameTag)));
 }
 
-NodePtr Set(NodePtr element) {
-  NodePtr node;
-  Check(ASN1_WriteSet(element.get(), Out(node)), "write a SET");
-  return node;
-}
+NodePtr Set(NodePtr element) { return Make("write a SET", ASN1_WriteSet, element.get()); }
 
 // The extensions that the certificate is to have: one attribute, with one value.
 NodePtr Attributes() {
-  NodeChain extensions;
-  extensions.Append(Extension(kKeyUsageId, kCritical, *KeyUsage()));
-  extensions.Append(Extension(kSubjectAltNameId, kNotCritical, *SubjectAltName()));
-  NodeChain attribute;
-  attribute.Append(ObjectIdentifier(kExtensionRequestId));
-  attribute.Append(Set(Sequence(extensions)));
-  return Set(Sequence(attribute));
+  const ChainBuilder extensions(Extension(kKeyUsageId, kCritical, *KeyUsage()),
+                                Extension(kSubjectAltNameId, kNotCritical, *SubjectAltName()));
+  return Set(
+      Sequence(ChainBuilder(ObjectIdentifier(kExtensionRequestId), Set(Sequence(extensions)))));
 }
 
 NodePtr SignedPart(std::string_view commonName, const SigningKey& key) {
-  Pkcs10Ptr info;
-  Check(ASN1_CreatePKCS10(Out(info)), "create the signed part");
+  const auto info = Make("create the signed part", ASN1_CreatePKCS10);
   Check(ASN1_PKCS10SetVersion(info.get(), kVersion1), "set the version");
   Check(ASN1_PKCS10SetSubject(info.get(), Name(commonName).get()), "set the subject");
   Check(ASN1_PKCS10SetSubjectPublicKeyInfo(info.get(), KeyInfo(*RsaPublicKey(key)).get()),
         "set the public key");
   Check(ASN1_PKCS10SetAttributes(info.get(), Attributes().get()), "set the attributes");
-  NodePtr node;
-  Check(ASN1_PKCS10WriteData(info.get(), Out(node)), "write the signed part");
-  return node;
+  return Make("write the signed part", ASN1_PKCS10WriteData, info.get());
 }
 
 int IssueRequest(std::span<char*> arguments) {

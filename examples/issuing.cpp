@@ -4,7 +4,10 @@
 #include <string>
 #include <utility>
 
-#include "result_codes.h"
+#include "velkord.hpp"
+
+using velkord::Bytes, velkord::ChainBuilder, velkord::Length, velkord::Make, velkord::NodePtr,
+    velkord::View;
 
 namespace {
 
@@ -14,10 +17,6 @@ constexpr uint8_t kOrganization[] = {0xCA, 0xBE, 0xC0, 0xFD, 0xBB, 0xFA, 0xB9, 0
 constexpr size_t kLongestCommonName = 64;
 constexpr size_t kKeyIdentifierSize = 20;
 constexpr uint8_t kOctetStringType = 4;
-
-Bytes AsBytes(std::string_view text) {
-  return Bytes(reinterpret_cast<const uint8_t*>(text.data()), text.size());
-}
 
 void CheckCommonName(Bytes name) {
   size_t count = 0;
@@ -37,7 +36,7 @@ void CheckCommonName(Bytes name) {
 std::vector<uint8_t> ObjectIdOctets(std::string_view dotted) {
   std::vector<uint8_t> octets(dotted.size());
   uint32_t length = 0;
-  if (ASN1_OBJECT_a2d(octets.data(), &length, dotted.data(), SignedLength(dotted.size())) == 0) {
+  if (ASN1_OBJECT_a2d(octets.data(), &length, dotted.data(), Length<int32_t>(dotted)) == 0) {
     throw std::runtime_error("encode an object identifier: " + std::string(dotted) + " is none");
   }
   octets.resize(length);
@@ -47,9 +46,7 @@ std::vector<uint8_t> ObjectIdOctets(std::string_view dotted) {
 using BytesWriter = int32_t (*)(const uint8_t*, uint32_t, Anybuf**);
 
 NodePtr Write(BytesWriter write, Bytes bytes, const char* step) {
-  NodePtr node;
-  Check(write(bytes.data(), Length32(bytes.size()), Out(node)), step);
-  return node;
+  return Make(step, write, bytes.data(), Length(bytes));
 }
 
 NodePtr Utf8String(Bytes text) {
@@ -68,15 +65,12 @@ NodePtr OrganizationName() {
 }
 
 NodePtr CountryName() {
-  return Write(ASN1_WriteCharStringFromBytes, AsBytes("CN"), "write the country");
+  return Write(ASN1_WriteCharStringFromBytes, View("CN"), "write the country");
 }
 
 NodePtr RelativeName(const NodePtr& value, std::string_view id) {
-  NodePtr node;
-  Check(ASN1_GetDerRelativeDistinguishedNameOne(value.get(), 0, id.data(), SignedLength(id.size()),
-                                                Out(node)),
-        "write a relative name");
-  return node;
+  return Make("write a relative name", ASN1_GetDerRelativeDistinguishedNameOne, value.get(), 0,
+              id.data(), Length<int32_t>(id));
 }
 
 }  // namespace
@@ -88,55 +82,40 @@ int32_t Seconds(int64_t time) {
 
 NodePtr UtcTime(int64_t time) {
   const int32_t seconds = Seconds(time);
-  NodePtr node;
-  Check(ASN1_WriteUtcTime(&seconds, Out(node)), "write a time");
-  return node;
+  return Make("write a time", ASN1_WriteUtcTime, &seconds);
 }
 
 NodePtr ObjectIdentifier(std::string_view id) {
   const std::vector<uint8_t> octets = ObjectIdOctets(id);
-  NodePtr node;
-  Check(ASN1_WriteObjectIdFromData(0, octets.data(), Length32(octets.size()), Out(node)),
-        "write an object identifier");
-  return node;
+  return Make("write an object identifier", ASN1_WriteObjectIdFromData, 0, octets.data(),
+              Length(octets));
 }
 
 NodePtr Name(std::string_view commonName) {
-  CheckCommonName(AsBytes(commonName));
-  NodeChain chain;
-  chain.Append(RelativeName(CountryName(), kCountryNameId));
-  chain.Append(RelativeName(OrganizationName(), kOrganizationNameId));
-  chain.Append(RelativeName(Utf8String(AsBytes(commonName)), kCommonNameId));
-  NodePtr name;
-  Check(ASN1_GetDerName(chain.Head(), Out(name)), "write the name");
-  return name;
+  CheckCommonName(View(commonName));
+  const ChainBuilder chain(RelativeName(CountryName(), kCountryNameId),
+                           RelativeName(OrganizationName(), kOrganizationNameId),
+                           RelativeName(Utf8String(View(commonName)), kCommonNameId));
+  return Make("write the name", ASN1_GetDerName, chain.Head());
 }
 
 // When the library writes NULL, the OID node stays with the caller.
 NodePtr Algorithm(std::string_view id) {
   const NodePtr oid = ObjectIdentifier(id);
-  NodePtr algorithm;
-  Check(ASN1_SetAlgorithmIdentifier(1, oid.get(), nullptr, nullptr, Out(algorithm)),
-        "write an algorithm");
-  return algorithm;
+  return Make("write an algorithm", ASN1_SetAlgorithmIdentifier, 1U, oid.get(), nullptr, nullptr);
 }
 
-NodePtr Sequence(const NodeChain& chain) {
-  NodePtr node;
-  Check(ASN1_WriteSequence(chain.Head(), Out(node)), "write a SEQUENCE");
-  return node;
+NodePtr Sequence(const ChainBuilder& chain) {
+  return Make("write a SEQUENCE", ASN1_WriteSequence, chain.Head());
 }
 
 // ASN1_WriteBitStringFromBytes would derive the unused bits from the last byte, which is right for
 // neither a signature nor flags.
 NodePtr BitString(Bytes bits, uint32_t unusedBits) {
-  NodePtr content;
-  NodePtr node;
-  Check(ASN1_CreateAnybuf(bits.data(), Length32(bits.size()), kOctetStringType, Out(content)),
-        "hold the bits");
+  const NodePtr content =
+      Make("hold the bits", ASN1_CreateAnybuf, bits.data(), Length(bits), kOctetStringType);
   content->unusedBits = unusedBits;
-  Check(ASN1_WriteBitString(content.get(), Out(node)), "write a BIT STRING");
-  return node;
+  return Make("write a BIT STRING", ASN1_WriteBitString, content.get());
 }
 
 NodePtr OctetString(Bytes bytes) {
@@ -144,32 +123,24 @@ NodePtr OctetString(Bytes bytes) {
 }
 
 NodePtr RsaPublicKey(const SigningKey& key) {
-  NodePtr node;
-  Check(
-      ASN1_SetRSAPublicKey(Integer(key.Modulus()).get(), Integer(key.Exponent()).get(), Out(node)),
-      "write the public key");
-  return node;
+  return Make("write the public key", ASN1_SetRSAPublicKey, Integer(key.Modulus()).get(),
+              Integer(key.Exponent()).get());
 }
 
 // The library derives the unused bits of this BIT STRING from the key's last byte. The key ends
 // with the exponent 65537, 01 00 01 in bytes, and a last byte 01 gives 0 unused bits, as it must.
 NodePtr KeyInfo(const Anybuf& publicKey) {
-  NodePtr node;
-  Check(ASN1_SetSubjectPublicKeyInfo(Algorithm(kRsaEncryptionId).get(), &publicKey, Out(node)),
-        "write the key info");
-  return node;
+  return Make("write the key info", ASN1_SetSubjectPublicKeyInfo, Algorithm(kRsaEncryptionId).get(),
+              &publicKey);
 }
 
 std::vector<uint8_t> KeyIdentifier(const Anybuf& publicKey) {
-  const auto digest = Sha256(NodeBytes(publicKey));
+  const auto digest = Sha256(View(publicKey));
   return std::vector<uint8_t>(digest.begin(), digest.begin() + kKeyIdentifierSize);
 }
 
 NodePtr Extension(std::string_view id, uint32_t critical, const Anybuf& value) {
   const std::vector<uint8_t> octets = ObjectIdOctets(id);
-  NodePtr node;
-  Check(ASN1_GetExtensionOne(0, octets.data(), Length32(octets.size()), critical, value.data,
-                             value.dataLen, Out(node)),
-        "write an extension");
-  return node;
+  return Make("write an extension", ASN1_GetExtensionOne, 0, octets.data(), Length(octets),
+              critical, value.data, value.dataLen);
 }

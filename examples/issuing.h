@@ -7,13 +7,12 @@
 #include <string_view>
 #include <vector>
 
-#include "handles.h"
 #include "node_bytes.h"
-#include "node_chain.h"
 #include "object_ids.h"
 #include "readable_text.h"
 #include "signed_whole.h"
 #include "signing_key.h"
+#include "velkord.hpp"
 
 inline constexpr uint32_t kCritical = 0xFF;
 inline constexpr uint32_t kNotCritical = 0;
@@ -22,36 +21,37 @@ inline constexpr uint32_t kNotCritical = 0;
 int32_t Seconds(int64_t time);
 
 // Written as local time: call UseUtc before.
-NodePtr UtcTime(int64_t time);
+velkord::NodePtr UtcTime(int64_t time);
 
-NodePtr ObjectIdentifier(std::string_view id);
+velkord::NodePtr ObjectIdentifier(std::string_view id);
 
 // A country, an organisation and the common name, UTF-8 text of 1 to 64 characters.
-NodePtr Name(std::string_view commonName);
+velkord::NodePtr Name(std::string_view commonName);
 
 // An AlgorithmIdentifier whose parameter is NULL.
-NodePtr Algorithm(std::string_view id);
+velkord::NodePtr Algorithm(std::string_view id);
 
-NodePtr Sequence(const NodeChain& chain);
+velkord::NodePtr Sequence(const velkord::ChainBuilder& chain);
 
 // A BIT STRING whose unused bits are known.
-NodePtr BitString(Bytes bits, uint32_t unusedBits);
+velkord::NodePtr BitString(velkord::Bytes bits, uint32_t unusedBits);
 
-NodePtr OctetString(Bytes bytes);
+velkord::NodePtr OctetString(velkord::Bytes bytes);
 
-NodePtr RsaPublicKey(const SigningKey& key);
+velkord::NodePtr RsaPublicKey(const SigningKey& key);
 
-NodePtr KeyInfo(const Anybuf& publicKey);
+velkord::NodePtr KeyInfo(const Anybuf& publicKey);
 
 // The first 160 bits of the SHA-256 of a public key, by which the key is told.
 std::vector<uint8_t> KeyIdentifier(const Anybuf& publicKey);
 
-NodePtr Extension(std::string_view id, uint32_t critical, const Anybuf& value);
+velkord::NodePtr Extension(std::string_view id, uint32_t critical, const Anybuf& value);
 
 // Signs a part and puts the whole around it.
 template <typename Record>
-NodePtr Sign(const SignedWhole<Record>& whole, const Anybuf& signedPart, const SigningKey& key) {
-  const std::vector<uint8_t> signature = key.Sign(NodeBytes(signedPart));
+velkord::NodePtr Sign(const SignedWhole<Record>& whole, const Anybuf& signedPart,
+                      const SigningKey& key) {
+  const std::vector<uint8_t> signature = key.Sign(velkord::View(signedPart));
   return WriteSigned(whole, signedPart, *Algorithm(kSha256WithRsaEncryptionId),
                      *BitString(signature, 0));
 }

@@ -3,14 +3,17 @@
 #include <algorithm>
 #include <bit>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
-#include "handles.h"
 #include "node_bytes.h"
 #include "object_ids.h"
-#include "result_codes.h"
 #include "secret.h"
 #include "structure_text.h"
+#include "velkord.hpp"
+
+using velkord::Bytes, velkord::Check, velkord::Errc, velkord::Length, velkord::NodePtr,
+    velkord::Out;
 
 namespace {
 
@@ -23,7 +26,7 @@ constexpr size_t kRsaAlgorithmSize = 13;
 std::string RsaNumbersText(Bytes modulus, Bytes exponent) {
   const auto first = std::ranges::find_if(modulus, [](uint8_t byte) { return byte != 0; });
   const Bytes significant(first, modulus.end());
-  if (significant.empty()) Fail("read the modulus, which is 0", VELKORD_FAILURE);
+  if (significant.empty()) throw std::system_error(Errc::kFailure, "read the modulus, which is 0");
   const size_t bits =
       (significant.size() - 1) * 8 + static_cast<size_t>(std::bit_width(significant.front()));
   return "  bits: " + std::to_string(bits) + "\n  modulus: " + HexText(significant) +
@@ -72,7 +75,7 @@ std::string PointText(Bytes der, Bytes point) {
     return "  public key: " + HexText(point) + '\n';
   }
   EccPubkey key{};
-  Check(ASN1_Der2EccPubkey(der.data(), Length32(der.size()), &key), "read the public point");
+  Check(ASN1_Der2EccPubkey(der.data(), Length(der), &key), "read the public point");
   return "  bits: " + std::to_string(key.bits) + "\n  public point: x " + HexText(key.x) +
          "\n                y " + HexText(key.y) + '\n';
 }
@@ -91,7 +94,7 @@ std::string RsaPublicKeyText(Bytes der) {
 
 std::string RsaPrivateKeyText(Bytes der) {
   Secret<ZantPrivateKey> key{};
-  Check(ZantDecodePrivateKey(&key, der.data(), SignedLength(der.size())),
+  Check(ZantDecodePrivateKey(&key, der.data(), Length<int32_t>(der)),
         "read the private key of at most 2048 bits");
   return RsaNumbersText(FieldNumber(key.modulus), FieldNumber(key.publicExponent)) +
          "  private values: not shown\n";
@@ -110,19 +113,21 @@ std::string PublicKeyInfoText(Bytes der) {
 
 std::string PrivateKeyInfoText(Bytes der) {
   SecretNodePtr elements;
-  Check(ASN1_WriteSequenceFromDERBytes(der.data(), Length32(der.size()), Out(elements)),
+  Check(ASN1_WriteSequenceFromDERBytes(der.data(), Length(der), Out(elements)),
         "split the key info");
-  if (elements == nullptr || elements->next == nullptr) Fail("split the key info", VELKORD_FAILURE);
+  if (elements == nullptr || elements->next == nullptr) {
+    throw std::system_error(Errc::kFailure, "split the key info");
+  }
   const Anybuf& algorithm = *elements->next;
   const KeyAlgorithm read = ReadKeyAlgorithm(algorithm);
   if (read.id == kRsaEncryptionId) {
     if (NodeContent(algorithm, "read the key algorithm").size() != kRsaAlgorithmSize) {
-      Fail("read the private key, whose algorithm has no NULL", VELKORD_FAILURE);
+      throw std::system_error(Errc::kFailure, "read the private key, whose algorithm has no NULL");
     }
     return read.text + RsaPrivateKeyText(der);
   }
   if (!IsReadCurve(read)) return read.text + "  private value: not read\n";
   Secret<EccPrikey> key{};
-  Check(ASN1_Der2EccPrikey(der.data(), Length32(der.size()), &key), "read the private key");
+  Check(ASN1_Der2EccPrikey(der.data(), Length(der), &key), "read the private key");
   return read.text + "  bits: " + std::to_string(key.bits) + "\n  private value: not shown\n";
 }

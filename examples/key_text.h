@@ -10,11 +10,11 @@
 // failed and its code, and wipes the private values that it copied.
 
 // The two forms of PKCS#1.
-std::string RsaPublicKeyText(Bytes der);
-std::string RsaPrivateKeyText(Bytes der);
+std::string RsaPublicKeyText(velkord::Bytes der);
+std::string RsaPrivateKeyText(velkord::Bytes der);
 
 // The forms that name the algorithm: SubjectPublicKeyInfo, and PrivateKeyInfo of PKCS#8.
-std::string PublicKeyInfoText(Bytes der);
-std::string PrivateKeyInfoText(Bytes der);
+std::string PublicKeyInfoText(velkord::Bytes der);
+std::string PrivateKeyInfoText(velkord::Bytes der);
 
 #endif  // VELKORD_EXAMPLES_KEY_TEXT_H_

@@ -4,10 +4,10 @@
 #include <stdexcept>
 #include <vector>
 
-#include "handles.h"
-#include "node_bytes.h"
-#include "result_codes.h"
 #include "secret.h"
+#include "velkord.hpp"
+
+using velkord::Bytes, velkord::Chain, velkord::Check, velkord::Length, velkord::Out, velkord::View;
 
 namespace {
 
@@ -55,15 +55,14 @@ constexpr UsualLabel kUsualLabels[] = {
 // A private value may be among the elements.
 SecretNodePtr Split(Bytes sequence, const char* step) {
   SecretNodePtr elements;
-  Check(ASN1_WriteSequenceFromDERBytes(sequence.data(), Length32(sequence.size()), Out(elements)),
-        step);
+  Check(ASN1_WriteSequenceFromDERBytes(sequence.data(), Length(sequence), Out(elements)), step);
   return elements;
 }
 
 Types TypesOf(const SecretNodePtr& elements) {
   Types types;
-  for (const Anybuf* element = elements.get(); element != nullptr; element = element->next) {
-    types.push_back(element->dataType);
+  for (const Anybuf& element : Chain(elements.get())) {
+    types.push_back(element.dataType);
   }
   return types;
 }
@@ -77,7 +76,7 @@ bool IsTime(uint32_t type) { return type == kUtcTime || type == kGeneralizedTime
 // A certificate's version may be missing, and then its serial number comes first. A list may begin
 // with a version, and a request does.
 Kind KindOfSigned(const Anybuf& signedPart) {
-  Types types = TypesOf(Split(NodeBytes(signedPart), "split the signed part"));
+  Types types = TypesOf(Split(View(signedPart), "split the signed part"));
   if (StartsWith(types, {kContext0, kInteger, kSequence})) return Kind::kCertificate;
   if (StartsWith(types, {kInteger, kSequence, kSequence, kSequence})) return Kind::kCertificate;
   if (types == Types{kInteger, kSequence, kSequence}) return Kind::kRequest;

@@ -29,7 +29,7 @@ inline constexpr std::string_view kKindNames[] = {
 inline std::string_view KindName(Kind kind) { return kKindNames[static_cast<size_t>(kind)]; }
 
 // By structure alone. Throws std::runtime_error when the DER is malformed or of no kind above.
-Kind KindOf(Bytes der);
+Kind KindOf(velkord::Bytes der);
 
 // Whether a PEM label is one that such a block usually has.
 bool IsUsualLabel(Kind kind, std::string_view label);

@@ -18,7 +18,7 @@ DigestContextPtr DigestContext() {
   return context;
 }
 
-std::vector<uint8_t> SignWith(const DigestContextPtr& context, Bytes message) {
+std::vector<uint8_t> SignWith(const DigestContextPtr& context, velkord::Bytes message) {
   size_t size = 0;
   CheckCrypto(EVP_DigestSign(context.get(), nullptr, &size, message.data(), message.size()) == 1,
               "size the signature");
@@ -34,7 +34,7 @@ void FillWithRandom(std::span<uint8_t> bytes) {
   CheckCrypto(RAND_bytes(bytes.data(), static_cast<int>(bytes.size())) == 1, "draw random bytes");
 }
 
-std::array<uint8_t, 32> Sha256(Bytes message) {
+std::array<uint8_t, 32> Sha256(velkord::Bytes message) {
   std::array<uint8_t, 32> digest{};
   CheckCrypto(EVP_Digest(message.data(), message.size(), digest.data(), nullptr, EVP_sha256(),
                          nullptr) == 1,

@@ -12,10 +12,18 @@
 #include <string>
 #include <vector>
 
-#include "handles.h"
 #include "readable_text.h"
 #include "secret.h"
+#include "velkord.hpp"
 
+// The deleter of an object of libcrypto's that goes back through `kFree`.
+template <auto kFree>
+struct FreeWith {
+  template <typename Object>
+  void operator()(Object* object) const {
+    kFree(object);
+  }
+};
 using KeyPtr = std::unique_ptr<EVP_PKEY, FreeWith<EVP_PKEY_free>>;
 using DigestContextPtr = std::unique_ptr<EVP_MD_CTX, FreeWith<EVP_MD_CTX_free>>;
 
@@ -24,11 +32,11 @@ void CheckCrypto(bool succeeded, const std::string& step);
 DigestContextPtr DigestContext();
 
 // Signs in one call with a context that is set up for it.
-std::vector<uint8_t> SignWith(const DigestContextPtr& context, Bytes message);
+std::vector<uint8_t> SignWith(const DigestContextPtr& context, velkord::Bytes message);
 
 void FillWithRandom(std::span<uint8_t> bytes);
 
-std::array<uint8_t, 32> Sha256(Bytes message);
+std::array<uint8_t, 32> Sha256(velkord::Bytes message);
 
 // The DER of an object, by the function that writes its kind.
 template <typename Container, typename Object>

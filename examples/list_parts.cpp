@@ -1,18 +1,19 @@
 #include "list_parts.h"
 
-#include "node_chain.h"
-#include "result_codes.h"
 #include "signed_whole.h"
+#include "velkord.hpp"
+
+using velkord::Bytes, velkord::Chain, velkord::ChainBuilder, velkord::Check, velkord::Handle,
+    velkord::Length, velkord::Make, velkord::NodePtr, velkord::Out;
 
 namespace {
 
-std::vector<RevokedCertificatePtr> ReadEntries(const TbsCertList& tbs) {
-  std::vector<RevokedCertificatePtr> entries;
+std::vector<Handle<RevokedCertificate>> ReadEntries(const TbsCertList& tbs) {
+  std::vector<Handle<RevokedCertificate>> entries;
   if (tbs.hasRevokedCertificates != 1) return entries;
-  NodePtr elements;
-  Check(ASN1_ReadSequence(tbs.revokedCertificates, Out(elements)), "split the entries");
-  for (const Anybuf* element = elements.get(); element != nullptr; element = element->next) {
-    Check(ASN1_CRL_RevokedCertificateDecode(element->data, element->dataLen,
+  const NodePtr elements = Make("split the entries", ASN1_ReadSequence, tbs.revokedCertificates);
+  for (const Anybuf& element : Chain(elements.get())) {
+    Check(ASN1_CRL_RevokedCertificateDecode(element.data, element.dataLen,
                                             Out(entries.emplace_back())),
           "decode an entry");
   }
@@ -20,8 +21,7 @@ std::vector<RevokedCertificatePtr> ReadEntries(const TbsCertList& tbs) {
 }
 
 NodePtr RebuildEntry(const RevokedCertificate& from) {
-  RevokedCertificatePtr entry;
-  Check(ASN1_CRL_CreateRevokedCertificate(Out(entry)), "create an entry");
+  const auto entry = Make("create an entry", ASN1_CRL_CreateRevokedCertificate);
   Check(ASN1_CRL_SetRevokedCertificateCertificateSerialNumber(entry.get(),
                                                               from.certificateSerialNumber),
         "set an entry's serial number");
@@ -31,24 +31,20 @@ NodePtr RebuildEntry(const RevokedCertificate& from) {
     Check(ASN1_CRL_SetRevokedCertificateCrlEntryExtensions(entry.get(), from.crlEntryExtensions),
           "set an entry's extensions");
   }
-  NodePtr written;
-  Check(ASN1_CRL_RevokedCertificateWriteData(entry.get(), Out(written)), "write an entry");
-  return written;
+  return Make("write an entry", ASN1_CRL_RevokedCertificateWriteData, entry.get());
 }
 
 NodePtr RebuildEntries(const ListParts& parts) {
-  NodeChain chain;
-  for (const RevokedCertificatePtr& entry : parts.entries) chain.Append(RebuildEntry(*entry));
-  NodePtr written;
-  Check(ASN1_WriteSequence(chain.Head(), Out(written)), "write the entries");
-  return written;
+  ChainBuilder chain;
+  for (const Handle<RevokedCertificate>& entry : parts.entries) chain.Append(RebuildEntry(*entry));
+  return Make("write the entries", ASN1_WriteSequence, chain.Head());
 }
 
 }  // namespace
 
 ListParts ReadListParts(Bytes der) {
   ListParts parts;
-  Check(ASN1_CRL_CertificateListDecode(der.data(), Length32(der.size()), Out(parts.list)),
+  Check(ASN1_CRL_CertificateListDecode(der.data(), Length(der), Out(parts.list)),
         "decode the list");
   const Anybuf& signedPart = *parts.list->tbsCertList;
   Check(ASN1_CRL_TbsCertListDecode(signedPart.data, signedPart.dataLen, Out(parts.tbs)),
@@ -59,8 +55,7 @@ ListParts ReadListParts(Bytes der) {
 
 NodePtr RebuildSignedList(const ListParts& parts) {
   const TbsCertList& from = *parts.tbs;
-  TbsCertListPtr tbs;
-  Check(ASN1_CRL_CreateTbsCertList(Out(tbs)), "create the signed part");
+  const auto tbs = Make("create the signed part", ASN1_CRL_CreateTbsCertList);
   Check(ASN1_CRL_TbsCertListSetVersion(tbs.get(), from.version), "set the version");
   Check(ASN1_CRL_TbsCertListSetSignatureAlgorithmIdentifier(tbs.get(), from.signature),
         "set the signature algorithm");
@@ -78,9 +73,7 @@ NodePtr RebuildSignedList(const ListParts& parts) {
     Check(ASN1_CRL_TbsCertListSetCrlExtensions(tbs.get(), from.crlExtensions),
           "set the extensions");
   }
-  NodePtr written;
-  Check(ASN1_CRL_TbsCertListWriteData(tbs.get(), Out(written)), "write the signed part");
-  return written;
+  return Make("write the signed part", ASN1_CRL_TbsCertListWriteData, tbs.get());
 }
 
 NodePtr RebuildList(const ListParts& parts) {

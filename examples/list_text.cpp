@@ -1,12 +1,16 @@
 #include "list_text.h"
 
+#include <algorithm>
 #include <sstream>
 #include <string_view>
 
 #include "node_bytes.h"
 #include "object_ids.h"
-#include "result_codes.h"
 #include "structure_text.h"
+#include "velkord.hpp"
+
+using velkord::Chain, velkord::Check, velkord::Handle, velkord::Make, velkord::NodePtr,
+    velkord::Out;
 
 namespace {
 
@@ -24,8 +28,7 @@ constexpr std::string_view kReasons[] = {
 
 // The record holds seconds, which were read as the local time that this writes.
 std::string SecondsText(int32_t seconds, const char* step) {
-  NodePtr time;
-  Check(ASN1_WriteGeneralizedTime(&seconds, Out(time)), step);
+  const NodePtr time = Make(step, ASN1_WriteGeneralizedTime, &seconds);
   return TimeText(time.get(), step);
 }
 
@@ -42,14 +45,12 @@ std::string ReasonText(const Anybuf& value) {
 
 // Empty when no extension of the entry is a reason code.
 std::string EntryReason(const Anybuf& list) {
-  NodePtr extensions;
-  Check(ASN1_ReadExtensions(&list, Out(extensions)), "split an entry's extensions");
-  for (const Anybuf* extension = extensions.get(); extension != nullptr;
-       extension = extension->next) {
+  const NodePtr extensions = Make("split an entry's extensions", ASN1_ReadExtensions, &list);
+  for (const Anybuf& extension : Chain(extensions.get())) {
     NodePtr id;
     NodePtr critical;
     NodePtr value;
-    Check(ASN1_GetExtension(extension, Out(id), Out(critical), Out(value)),
+    Check(ASN1_GetExtension(&extension, Out(id), Out(critical), Out(value)),
           "open an entry's extension");
     if (DottedText(NodeContent(*id, "read an extension's type")) == kReasonCodeId) {
       return ReasonText(*value);
@@ -72,15 +73,12 @@ void PutEntry(std::ostream& out, const RevokedCertificate& entry) {
 }
 
 NodePtr WithoutFirst(const NodePtr& elements) {
-  NodePtr sequence;
-  Check(ASN1_WriteSequence(elements->next, Out(sequence)), "write the signed part shortened");
-  return sequence;
+  return Make("write the signed part shortened", ASN1_WriteSequence, elements->next);
 }
 
 bool HasElement(const NodePtr& elements, uint32_t type) {
-  const Anybuf* element = elements.get();
-  while (element != nullptr && element->dataType != type) element = element->next;
-  return element != nullptr;
+  return std::ranges::any_of(Chain(elements.get()),
+                             [type](const Anybuf& element) { return element.dataType == type; });
 }
 
 // What comes of the signed part when it is written from its fields.
@@ -89,8 +87,7 @@ std::string_view SignedPartRemark(const ListParts& parts) {
   const NodePtr rebuilt = RebuildSignedList(parts);
   if (SameBytes(*rebuilt, original)) return "identical";
 
-  NodePtr elements;
-  Check(ASN1_ReadSequence(&original, Out(elements)), "split the signed part");
+  const NodePtr elements = Make("split the signed part", ASN1_ReadSequence, &original);
   if (HasElement(elements, kUtcTimeTag) && HasElement(elements, kGeneralizedTimeTag)) {
     return "different: nextUpdate is written in the form of thisUpdate";
   }
@@ -114,7 +111,7 @@ std::string ListText(const ListParts& parts) {
   out << "  signature algorithm: "
       << AlgorithmText(*parts.list->signatureAlgorithm, "read the signature algorithm") << '\n'
       << "  entries: " << parts.entries.size() << '\n';
-  for (const RevokedCertificatePtr& entry : parts.entries) PutEntry(out, *entry);
+  for (const Handle<RevokedCertificate>& entry : parts.entries) PutEntry(out, *entry);
   if (tbs.hasCrlExtensions == 1) {
     out << "  extensions:\n";
     PutExtensions(out, *tbs.crlExtensions, "    ");

@@ -8,6 +8,6 @@
 
 // Indented lines, each with its line end. Throws std::runtime_error naming the step that failed and
 // its code.
-std::string MessageText(Bytes der);
+std::string MessageText(velkord::Bytes der);
 
 #endif  // VELKORD_EXAMPLES_MESSAGE_TEXT_H_

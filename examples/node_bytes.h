@@ -5,14 +5,10 @@
 #include <algorithm>
 #include <vector>
 
-#include "handles.h"
-#include "readable_text.h"
-#include "result_codes.h"
-
-inline Bytes NodeBytes(const Anybuf& node) { return Bytes(node.data, node.dataLen); }
+#include "velkord.hpp"
 
 inline bool SameBytes(const Anybuf& node, const Anybuf& other) {
-  return std::ranges::equal(NodeBytes(node), NodeBytes(other));
+  return std::ranges::equal(velkord::View(node), velkord::View(other));
 }
 
 // The content of a TLV node: of a BIT STRING without its unused-bits octet, of an INTEGER without
@@ -20,16 +16,14 @@ inline bool SameBytes(const Anybuf& node, const Anybuf& other) {
 inline std::vector<uint8_t> NodeContent(const Anybuf& node, const char* step) {
   std::vector<uint8_t> content(node.dataLen);
   uint32_t length = 0;
-  Check(ASN1_ReadOctetStringToBytes(&node, content.data(), &length), step);
+  velkord::Check(ASN1_ReadOctetStringToBytes(&node, content.data(), &length), step);
   content.resize(length);
   return content;
 }
 
 // A TLV node over a whole element.
-inline NodePtr ElementNode(Bytes der, const char* step) {
-  NodePtr node;
-  Check(ASN1_WriteExplicitFromDERData(der.data(), Length32(der.size()), Out(node)), step);
-  return node;
+inline velkord::NodePtr ElementNode(velkord::Bytes der, const char* step) {
+  return velkord::Make(step, ASN1_WriteExplicitFromDERData, der.data(), velkord::Length(der));
 }
 
 #endif  // VELKORD_EXAMPLES_NODE_BYTES_H_

@@ -4,6 +4,10 @@
 #include <limits>
 #include <string_view>
 
+#include "velkord.hpp"
+
+using velkord::Bytes;
+
 namespace {
 
 struct KnownObjectId {

@@ -28,10 +28,10 @@ inline constexpr std::string_view kAuthorityKeyIdentifierId = "2.5.29.35";
 
 // The dotted form of content octets, empty when they are no identifier or when an arc needs more
 // than 64 bits.
-std::string DottedText(Bytes octets);
+std::string DottedText(velkord::Bytes octets);
 
 // The dotted form, followed by the usual name of a well-known identifier. Octets that have no
 // dotted form come in hex.
-std::string ObjectIdText(Bytes octets);
+std::string ObjectIdText(velkord::Bytes octets);
 
 #endif  // VELKORD_EXAMPLES_OBJECT_IDS_H_

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "result_codes.h"
+#include "velkord.hpp"
 
 namespace {
 
@@ -45,8 +45,9 @@ std::vector<PemBlock> FindPemBlocks(std::string_view text) {
 SecretBytes DecodePem(const PemBlock& block) {
   SecretBytes der(block.text.size() / 4 * 3 + 3);
   uint32_t length = 0;
-  Check(PEM2DER_data_format(block.text.data(), Length32(block.text.size()), der.data(), &length),
-        "decode the PEM block");
+  velkord::Check(
+      PEM2DER_data_format(block.text.data(), velkord::Length(block.text), der.data(), &length),
+      "decode the PEM block");
   der.resize(length);
   return der;
 }

@@ -5,7 +5,7 @@
 #include <stdexcept>
 #include <system_error>
 
-#include "result_codes.h"
+#include "velkord.hpp"
 
 namespace {
 
@@ -16,9 +16,9 @@ std::string PemText(const std::string& label, const Anybuf& der) {
   const size_t lineEnds = (base64Size + 63) / 64 + 2;
   std::string text(base64Size + 2 * lineEnds + header.size() + footer.size() + 1, '\0');
   uint32_t length = 0;
-  Check(DER2PEM_data_format(der.data, der.dataLen, text.data(), &length, header.c_str(),
-                            footer.c_str()),
-        "write the PEM text");
+  velkord::Check(DER2PEM_data_format(der.data, der.dataLen, text.data(), &length, header.c_str(),
+                                     footer.c_str()),
+                 "write the PEM text");
   text.resize(length);
   return text;
 }

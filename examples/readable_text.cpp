@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
-#include "Velkord.h"
+#include "velkord.hpp"
+
+using velkord::Bytes;
 
 namespace {
 

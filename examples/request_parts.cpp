@@ -1,11 +1,14 @@
 #include "request_parts.h"
 
-#include "result_codes.h"
 #include "signed_whole.h"
+#include "velkord.hpp"
+
+using velkord::Bytes, velkord::Check, velkord::Length, velkord::Make, velkord::NodePtr,
+    velkord::Out;
 
 RequestParts ReadRequestParts(Bytes der) {
   RequestParts parts;
-  Check(ASN1_PKCS10RequestDecode(der.data(), Length32(der.size()), Out(parts.request)),
+  Check(ASN1_PKCS10RequestDecode(der.data(), Length(der), Out(parts.request)),
         "decode the request");
   const Anybuf& info = *parts.request->certificationRequestInfo;
   Check(ASN1_PKCS10Decode(info.data, info.dataLen, Out(parts.info)), "decode the signed part");
@@ -25,18 +28,15 @@ NodePtr ReadAttributes(const RequestParts& parts) {
 
 NodePtr RebuildSignedRequest(const RequestParts& parts) {
   const PKCS10& from = *parts.info;
-  NodePtr attributes;
-  Check(ASN1_WriteSet(ReadAttributes(parts).get(), Out(attributes)), "write the attributes");
-  Pkcs10Ptr info;
-  Check(ASN1_CreatePKCS10(Out(info)), "create the signed part");
+  const NodePtr attributes =
+      Make("write the attributes", ASN1_WriteSet, ReadAttributes(parts).get());
+  const auto info = Make("create the signed part", ASN1_CreatePKCS10);
   Check(ASN1_PKCS10SetVersion(info.get(), parts.version), "set the version");
   Check(ASN1_PKCS10SetSubject(info.get(), from.subject), "set the subject");
   Check(ASN1_PKCS10SetSubjectPublicKeyInfo(info.get(), from.subjectPublicKeyInfo),
         "set the public key");
   Check(ASN1_PKCS10SetAttributes(info.get(), attributes.get()), "set the attributes");
-  NodePtr written;
-  Check(ASN1_PKCS10WriteData(info.get(), Out(written)), "write the signed part");
-  return written;
+  return Make("write the signed part", ASN1_PKCS10WriteData, info.get());
 }
 
 NodePtr RebuildRequest(const RequestParts& parts) {

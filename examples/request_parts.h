@@ -2,24 +2,24 @@
 #ifndef VELKORD_EXAMPLES_REQUEST_PARTS_H_
 #define VELKORD_EXAMPLES_REQUEST_PARTS_H_
 
-#include "handles.h"
 #include "readable_text.h"
+#include "velkord.hpp"
 
 struct RequestParts {
-  Pkcs10RequestPtr request;
-  Pkcs10Ptr info;
+  velkord::Handle<PKCS10Request> request;
+  velkord::Handle<PKCS10> info;
   uint32_t version = 0;
 };
 
 // All throw std::runtime_error naming the step that failed and its code.
-RequestParts ReadRequestParts(Bytes der);
+RequestParts ReadRequestParts(velkord::Bytes der);
 
 // The chain of the attributes, null when there is none.
-NodePtr ReadAttributes(const RequestParts& parts);
+velkord::NodePtr ReadAttributes(const RequestParts& parts);
 
 // Each writes from the parts alone: every part goes through its setter into new records. A signed
 // part without the element of its attributes, which the decoder allows, cannot be written.
-NodePtr RebuildSignedRequest(const RequestParts& parts);
-NodePtr RebuildRequest(const RequestParts& parts);
+velkord::NodePtr RebuildSignedRequest(const RequestParts& parts);
+velkord::NodePtr RebuildRequest(const RequestParts& parts);
 
 #endif  // VELKORD_EXAMPLES_REQUEST_PARTS_H_

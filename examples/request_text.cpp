@@ -2,11 +2,14 @@
 
 #include <sstream>
 #include <string_view>
+#include <system_error>
 
 #include "node_bytes.h"
 #include "object_ids.h"
-#include "result_codes.h"
 #include "structure_text.h"
+#include "velkord.hpp"
+
+using velkord::Chain, velkord::Errc, velkord::Make, velkord::NodePtr;
 
 namespace {
 
@@ -20,16 +23,16 @@ void PutValue(std::ostream& out, std::string_view type, const Anybuf& value) {
 }
 
 void PutAttribute(std::ostream& out, const Anybuf& attribute) {
-  NodePtr parts;
-  Check(ASN1_ReadSequence(&attribute, Out(parts)), "split an attribute");
-  if (parts == nullptr || parts->next == nullptr) Fail("split an attribute", VELKORD_FAILURE);
+  const NodePtr parts = Make("split an attribute", ASN1_ReadSequence, &attribute);
+  if (parts == nullptr || parts->next == nullptr) {
+    throw std::system_error(Errc::kFailure, "split an attribute");
+  }
   out << "    " << NodeObjectId(*parts, "read the type of an attribute") << ":\n";
 
   const std::string type = DottedText(NodeContent(*parts, "read the type of an attribute"));
-  NodePtr values;
-  Check(ASN1_ReadSet(parts->next, Out(values)), "split the values of an attribute");
-  for (const Anybuf* value = values.get(); value != nullptr; value = value->next) {
-    PutValue(out, type, *value);
+  const NodePtr values = Make("split the values of an attribute", ASN1_ReadSet, parts->next);
+  for (const Anybuf& value : Chain(values.get())) {
+    PutValue(out, type, value);
   }
 }
 
@@ -52,9 +55,8 @@ std::string RequestText(const RequestParts& parts) {
   out << "  key algorithm: " << KeyAlgorithmText(*info.subjectPublicKeyInfo) << '\n';
   if (const NodePtr attributes = ReadAttributes(parts)) {
     out << "  attributes:\n";
-    for (const Anybuf* attribute = attributes.get(); attribute != nullptr;
-         attribute = attribute->next) {
-      PutAttribute(out, *attribute);
+    for (const Anybuf& attribute : Chain(attributes.get())) {
+      PutAttribute(out, attribute);
     }
   }
   out << "  signature algorithm: "

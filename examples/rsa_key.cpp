@@ -8,12 +8,14 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 #include "command_line.h"
 #include "libcrypto.h"
-#include "node_bytes.h"
-#include "result_codes.h"
 #include "secret.h"
+#include "velkord.hpp"
+
+using velkord::Bytes, velkord::Check, velkord::Errc, velkord::Length, velkord::Out;
 
 namespace {
 
@@ -26,7 +28,7 @@ constexpr size_t kLongestPrivateKey = 1450;
 
 // Moves a number of `size` bytes from the start of its field to the end.
 void MoveToEnd(std::span<uint8_t> field, size_t size) {
-  if (size > field.size()) Fail("place a number", VELKORD_FAILURE);
+  if (size > field.size()) throw std::system_error(Errc::kFailure, "place a number");
   std::rotate(field.begin(), field.begin() + static_cast<std::ptrdiff_t>(size), field.end());
 }
 
@@ -34,7 +36,7 @@ void MoveToEnd(std::span<uint8_t> field, size_t size) {
 // long a number is shows in the DER alone: the last byte of the coefficient may be a zero byte.
 void MoveNumbersToEnds(ZantPrivateKey& key, Bytes pkcs1) {
   SecretNodePtr elements;
-  Check(ASN1_WriteSequenceFromDERBytes(pkcs1.data(), Length32(pkcs1.size()), Out(elements)),
+  Check(ASN1_WriteSequenceFromDERBytes(pkcs1.data(), Length(pkcs1), Out(elements)),
         "split the private key");
   const Anybuf* element = elements.get();
   for (const std::span<uint8_t> field :
@@ -43,7 +45,9 @@ void MoveNumbersToEnds(ZantPrivateKey& key, Bytes pkcs1) {
         std::span<uint8_t>(key.prime2), std::span<uint8_t>(key.exponent1),
         std::span<uint8_t>(key.exponent2), std::span<uint8_t>(key.coefficient)}) {
     // The first element is the version.
-    if (element == nullptr || element->next == nullptr) Fail("find a number", VELKORD_FAILURE);
+    if (element == nullptr || element->next == nullptr) {
+      throw std::system_error(Errc::kFailure, "find a number");
+    }
     element = element->next;
     SecretNodePtr number;
     Check(ASN1_ReadIntegerArray(element, Out(number)), "read a number");
@@ -56,14 +60,16 @@ SecretBytes WritePrivateKey(const ZantPrivateKey& key) {
   uint32_t length = 0;
   Check(ZantEncodePrivateKey(&key, der.data(), &length), "write the private key");
   // A record that lacks a number is no failure; that nothing was written tells it.
-  if (length == 0) Fail("write the private key, which is not complete", VELKORD_FAILURE);
+  if (length == 0) {
+    throw std::system_error(Errc::kFailure, "write the private key, which is not complete");
+  }
   der.resize(length);
   return der;
 }
 
 void CheckRoundTrip(std::string_view form, Bytes der, Bytes pkcs1) {
   Secret<ZantPrivateKey> key{};
-  Check(ZantDecodePrivateKey(&key, der.data(), SignedLength(der.size())), "read the private key");
+  Check(ZantDecodePrivateKey(&key, der.data(), Length<int32_t>(der)), "read the private key");
   MoveNumbersToEnds(key, pkcs1);
   if (!std::ranges::equal(WritePrivateKey(key), pkcs1)) {
     throw std::runtime_error("the key was written with other bytes");

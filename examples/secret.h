@@ -9,7 +9,7 @@
 #include <memory>
 #include <vector>
 
-#include "Velkord.h"
+#include "velkord.hpp"
 
 // A container grows by moving to a larger block, so the wiping has to sit where blocks are
 // released.
@@ -43,8 +43,8 @@ struct Secret : Record {
 
 struct WipeAndFree {
   void operator()(Anybuf* chain) const {
-    for (const Anybuf* node = chain; node != nullptr; node = node->next) {
-      if (node->data != nullptr) explicit_bzero(node->data, node->dataLen);
+    for (const Anybuf& node : velkord::Chain(chain)) {
+      if (node.data != nullptr) explicit_bzero(node.data, node.dataLen);
     }
     ASN1_FreeAnybuf(chain);
   }

@@ -7,6 +7,6 @@
 #include "readable_text.h"
 
 // Indented lines, each with its line end. Throws std::runtime_error when the DER is none.
-std::string SignatureText(Bytes der);
+std::string SignatureText(velkord::Bytes der);
 
 #endif  // VELKORD_EXAMPLES_SIGNATURE_TEXT_H_

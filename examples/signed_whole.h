@@ -4,16 +4,13 @@
 #define VELKORD_EXAMPLES_SIGNED_WHOLE_H_
 
 #include <cstdint>
-#include <memory>
 
-#include "handles.h"
-#include "result_codes.h"
+#include "velkord.hpp"
 
 // The functions of one kind.
 template <typename Record>
 struct SignedWhole {
   int32_t (*create)(Record**);
-  void (*free)(Record*);
   int32_t (*setSignedPart)(Record*, const Anybuf*);
   int32_t (*setAlgorithm)(Record*, const Anybuf*);
   int32_t (*setSignature)(Record*, const Anybuf*);
@@ -22,7 +19,6 @@ struct SignedWhole {
 
 inline constexpr SignedWhole<Certificate> kCertificateWhole = {
     ASN1_CreateCertificate,
-    ASN1_FreeCertificate,
     ASN1_CertificateSetTbsCertificate,
     ASN1_CertificateSetSignatureAlgorithm,
     ASN1_CertificateSetSignatureValue,
@@ -30,7 +26,6 @@ inline constexpr SignedWhole<Certificate> kCertificateWhole = {
 };
 inline constexpr SignedWhole<CertificateList> kListWhole = {
     ASN1_CRL_CreateCertificateList,
-    ASN1_CRL_FreeCertificateList,
     ASN1_CRL_SetCertificateListTBSCertList,
     ASN1_CRL_SetCertificateListAlgorithmIdentifier,
     ASN1_CRL_SetCertificateListSignatureValue,
@@ -38,7 +33,6 @@ inline constexpr SignedWhole<CertificateList> kListWhole = {
 };
 inline constexpr SignedWhole<PKCS10Request> kRequestWhole = {
     ASN1_CreatePKCS10Request,
-    ASN1_FreePKCS10Request,
     ASN1_PKCS10RequestSetCertificationRequestInfo,
     ASN1_PKCS10RequestSetAlgorithmIdentifier,
     ASN1_PKCS10RequestSetSignature,
@@ -46,16 +40,14 @@ inline constexpr SignedWhole<PKCS10Request> kRequestWhole = {
 };
 
 template <typename Record>
-NodePtr WriteSigned(const SignedWhole<Record>& whole, const Anybuf& signedPart,
-                    const Anybuf& algorithm, const Anybuf& signature) {
-  std::unique_ptr<Record, void (*)(Record*)> record(nullptr, whole.free);
-  Check(whole.create(Out(record)), "create the signed structure");
-  Check(whole.setSignedPart(record.get(), &signedPart), "set the signed part");
-  Check(whole.setAlgorithm(record.get(), &algorithm), "set the structure's signature algorithm");
-  Check(whole.setSignature(record.get(), &signature), "set the signature");
-  NodePtr written;
-  Check(whole.write(record.get(), Out(written)), "write the signed structure");
-  return written;
+velkord::NodePtr WriteSigned(const SignedWhole<Record>& whole, const Anybuf& signedPart,
+                             const Anybuf& algorithm, const Anybuf& signature) {
+  const auto record = velkord::Make("create the signed structure", whole.create);
+  velkord::Check(whole.setSignedPart(record.get(), &signedPart), "set the signed part");
+  velkord::Check(whole.setAlgorithm(record.get(), &algorithm),
+                 "set the structure's signature algorithm");
+  velkord::Check(whole.setSignature(record.get(), &signature), "set the signature");
+  return velkord::Make("write the signed structure", whole.write, record.get());
 }
 
 #endif  // VELKORD_EXAMPLES_SIGNED_WHOLE_H_

@@ -20,7 +20,7 @@ std::vector<uint8_t> SigningKey::Modulus() const { return Number(OSSL_PKEY_PARAM
 
 std::vector<uint8_t> SigningKey::Exponent() const { return Number(OSSL_PKEY_PARAM_RSA_E); }
 
-std::vector<uint8_t> SigningKey::Sign(Bytes message) const {
+std::vector<uint8_t> SigningKey::Sign(velkord::Bytes message) const {
   const DigestContextPtr context = DigestContext();
   CheckCrypto(EVP_DigestSignInit(context.get(), nullptr, EVP_sha256(), nullptr, key_.get()) == 1,
               "start the signature");

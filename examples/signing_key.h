@@ -19,7 +19,7 @@ class SigningKey {
   std::vector<uint8_t> Exponent() const;
 
   // Signs with SHA-256 and PKCS #1 padding.
-  std::vector<uint8_t> Sign(Bytes message) const;
+  std::vector<uint8_t> Sign(velkord::Bytes message) const;
 
  private:
   std::vector<uint8_t> Number(const char* parameter) const;

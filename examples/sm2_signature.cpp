@@ -14,8 +14,11 @@
 #include "command_line.h"
 #include "issuing.h"
 #include "libcrypto.h"
-#include "result_codes.h"
 #include "secret.h"
+#include "velkord.hpp"
+
+using velkord::Bytes, velkord::ChainBuilder, velkord::Check, velkord::Length, velkord::NodePtr,
+    velkord::Out, velkord::View;
 
 namespace {
 
@@ -34,10 +37,6 @@ constexpr size_t kSignatureRoom = 6 + 2 * kIntegerRoom;
 // Room for a point as DER: its header with the unused-bits octet, the form and both coordinates.
 constexpr size_t kPointRoom = 5 + 1 + 2 * kNumberSize;
 
-Bytes Message() {
-  return Bytes(reinterpret_cast<const uint8_t*>(kMessage.data()), kMessage.size());
-}
-
 void Require(bool holds, const char* what) {
   if (!holds) throw std::runtime_error(what);
 }
@@ -54,7 +53,7 @@ std::vector<uint8_t> SignMessage(const KeyPtr& key) {
   CheckCrypto(EVP_DigestSignInit(context.get(), &keyContext, EVP_sm3(), nullptr, key.get()) == 1,
               "start the signature");
   SetIdentity(keyContext);
-  return SignWith(context, Message());
+  return SignWith(context, View(kMessage));
 }
 
 void VerifyMessage(const KeyPtr& key, Bytes signature) {
@@ -63,8 +62,8 @@ void VerifyMessage(const KeyPtr& key, Bytes signature) {
   CheckCrypto(EVP_DigestVerifyInit(context.get(), &keyContext, EVP_sm3(), nullptr, key.get()) == 1,
               "start the verification");
   SetIdentity(keyContext);
-  CheckCrypto(EVP_DigestVerify(context.get(), signature.data(), signature.size(), Message().data(),
-                               Message().size()) == 1,
+  CheckCrypto(EVP_DigestVerify(context.get(), signature.data(), signature.size(),
+                               View(kMessage).data(), kMessage.size()) == 1,
               "verify the signature");
 }
 
@@ -76,7 +75,7 @@ std::vector<uint8_t> ThroughNumbers(Bytes signature) {
   uint32_t rLength = 0;
   uint32_t sLength = 0;
   ASN1_SM2_SM2SignatureDecode(r.data(), &rLength, s.data(), &sLength, signature.data(),
-                              Length32(signature.size()));
+                              Length(signature));
   Require(rLength != 0 && rLength <= kNumberSize && sLength != 0 && sLength <= kNumberSize,
           "the signature was not taken apart");
   std::cout << "r: " << HexText(Bytes(r).first(rLength))
@@ -126,16 +125,13 @@ NodePtr KeyInfoOf(const EccPubkey& point, const Anybuf& other) {
   std::vector<uint8_t> content = {kUncompressed};
   content.insert(content.end(), std::begin(point.x), std::end(point.x));
   content.insert(content.end(), std::begin(point.y), std::end(point.y));
-  NodeChain chain;
-  chain.Append(std::move(algorithm));
-  chain.Append(BitString(content, 0));
-  return Sequence(chain);
+  return Sequence(ChainBuilder(std::move(algorithm), BitString(content, 0)));
 }
 
 KeyPtr ThroughPoint(const KeyPtr& key) {
   const auto info = Encode<std::vector<uint8_t>>(i2d_PUBKEY, key.get(), "write the public key");
   EccPubkey point{};
-  Check(ASN1_Der2EccPubkey(info.data(), Length32(info.size()), &point), "read the public point");
+  Check(ASN1_Der2EccPubkey(info.data(), Length(info), &point), "read the public point");
   std::cout << "x: " << HexText(point.x) << "\ny: " << HexText(point.y) << '\n';
   const EccPubkey back = ThroughBareForm(point);
   return ReadPublicKeyInfo(*KeyInfoOf(back, *ElementNode(info, "hold the key info")));
@@ -146,7 +142,7 @@ KeyPtr ThroughPoint(const KeyPtr& key) {
 void CheckPrivateValue(const KeyPtr& key) {
   const SecretBytes info = PrivateKeyInfo(key);
   Secret<EccPrikey> value{};
-  Check(ASN1_Der2EccPrikey(info.data(), Length32(info.size()), &value), "read the private key");
+  Check(ASN1_Der2EccPrikey(info.data(), Length(info), &value), "read the private key");
 
   SecretBytes der(kIntegerRoom);
   uint32_t length = 0;

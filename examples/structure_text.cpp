@@ -1,11 +1,14 @@
 #include "structure_text.h"
 
+#include <system_error>
 #include <vector>
 
-#include "handles.h"
 #include "node_bytes.h"
 #include "object_ids.h"
-#include "result_codes.h"
+#include "velkord.hpp"
+
+using velkord::Chain, velkord::Check, velkord::Errc, velkord::Make, velkord::NodePtr, velkord::Out,
+    velkord::View;
 
 namespace {
 
@@ -25,10 +28,9 @@ std::vector<uint8_t> NodeText(const Anybuf& node, const char* step) {
 }
 
 void PutAttribute(std::ostream& out, const Anybuf& attribute) {
-  NodePtr parts;
-  Check(ASN1_ReadSequence(&attribute, Out(parts)), "split an attribute of a name");
+  const NodePtr parts = Make("split an attribute of a name", ASN1_ReadSequence, &attribute);
   if (parts == nullptr || parts->next == nullptr) {
-    Fail("split an attribute of a name", VELKORD_FAILURE);
+    throw std::system_error(Errc::kFailure, "split an attribute of a name");
   }
   out << "    " << NodeObjectId(*parts, "read the type of an attribute of a name") << ": "
       << EscapedText(NodeText(*parts->next, "read an attribute of a name")) << '\n';
@@ -43,8 +45,7 @@ void PutExtension(std::ostream& out, const Anybuf& extension, std::string_view i
   if (critical != nullptr) {
     Check(ASN1_ReadBoolean(critical.get(), &isCritical), "read an extension's critical flag");
   }
-  NodePtr content;
-  Check(ASN1_ReadOctetString(value.get(), Out(content)), "read an extension's value");
+  const NodePtr content = Make("read an extension's value", ASN1_ReadOctetString, value.get());
   out << indent << NodeObjectId(*id, "read an extension's type")
       << (isCritical != 0 ? ", critical, " : ", ") << content->dataLen << " bytes\n";
 }
@@ -52,24 +53,25 @@ void PutExtension(std::ostream& out, const Anybuf& extension, std::string_view i
 }  // namespace
 
 std::string NodeObjectId(const Anybuf& node, const char* step) {
-  if (node.dataType != kObjectIdTag) Fail(step, VELKORD_WRONG_TAG);
-  ObjectIdPtr id;
-  Check(ASN1_ReadObjectId(&node, Out(id)), step);
-  return ObjectIdText(Bytes(id->data, id->dataLen));
+  if (node.dataType != kObjectIdTag) throw std::system_error(Errc::kWrongTag, step);
+  const auto id = Make(step, ASN1_ReadObjectId, &node);
+  return ObjectIdText(View(*id));
 }
 
 // Read from the text itself: the library's own reader gives local time and ends in 2038.
 std::string TimeText(const Anybuf* node, const char* step) {
-  if (node == nullptr) Fail(step, VELKORD_FAILURE);
+  if (node == nullptr) throw std::system_error(Errc::kFailure, step);
   const bool isUtcTime = node->dataType == kUtcTimeTag;
-  if (!isUtcTime && node->dataType != kGeneralizedTimeTag) Fail(step, VELKORD_WRONG_TAG);
+  if (!isUtcTime && node->dataType != kGeneralizedTimeTag) {
+    throw std::system_error(Errc::kWrongTag, step);
+  }
 
   const std::vector<uint8_t> content = NodeContent(*node, step);
   std::string text(content.begin(), content.end());
   const size_t digits = isUtcTime ? 12 : 14;
   if (text.size() != digits + 1 || text.back() != 'Z' ||
       text.find_first_not_of("0123456789") != digits) {
-    Fail(step, VELKORD_BAD_TIME);
+    throw std::system_error(Errc::kBadTime, step);
   }
   // Two-digit years run from 1950 to 2049.
   if (isUtcTime) text.insert(0, text[0] < '5' ? "20" : "19");
@@ -91,24 +93,19 @@ std::string KeyAlgorithmText(const Anybuf& keyInfo) {
 }
 
 void PutName(std::ostream& out, const Anybuf& name) {
-  NodePtr relativeNames;
-  Check(ASN1_ReadDerName(&name, Out(relativeNames)), "split a name");
-  for (const Anybuf* relative = relativeNames.get(); relative != nullptr;
-       relative = relative->next) {
-    NodePtr attributes;
-    Check(ASN1_ReadRelativeDistinguishedName(relative, Out(attributes)), "split a relative name");
-    for (const Anybuf* attribute = attributes.get(); attribute != nullptr;
-         attribute = attribute->next) {
-      PutAttribute(out, *attribute);
+  const NodePtr relativeNames = Make("split a name", ASN1_ReadDerName, &name);
+  for (const Anybuf& relative : Chain(relativeNames.get())) {
+    const NodePtr attributes =
+        Make("split a relative name", ASN1_ReadRelativeDistinguishedName, &relative);
+    for (const Anybuf& attribute : Chain(attributes.get())) {
+      PutAttribute(out, attribute);
     }
   }
 }
 
 void PutExtensions(std::ostream& out, const Anybuf& list, std::string_view indent) {
-  NodePtr extensions;
-  Check(ASN1_ReadExtensions(&list, Out(extensions)), "split the extensions");
-  for (const Anybuf* extension = extensions.get(); extension != nullptr;
-       extension = extension->next) {
-    PutExtension(out, *extension, indent);
+  const NodePtr extensions = Make("split the extensions", ASN1_ReadExtensions, &list);
+  for (const Anybuf& extension : Chain(extensions.get())) {
+    PutExtension(out, extension, indent);
   }
 }

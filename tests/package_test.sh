@@ -26,7 +26,7 @@ exports() {
 }
 
 cmake_files=(lib/cmake/Velkord/Velkord{Config,ConfigVersion,Targets,Targets-release}.cmake)
-common=(include/Velkord.h lib/pkgconfig/velkord.pc "${cmake_files[@]}")
+common=(include/{Velkord.h,velkord.hpp} lib/pkgconfig/velkord.pc "${cmake_files[@]}")
 major=${version%%.*}
 
 for package in "$work"/made/*; do

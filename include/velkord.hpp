@@ -1,0 +1,342 @@
+/// @file velkord.hpp
+/// An optional C++20 interface, this header alone: owning handles, views, ranges and error codes
+/// for calling the functions of Velkord.h, which stay in sight.
+///
+/// **Memory.** Nothing here allocates. What does is the standard library alone, when an error is
+/// told: `std::error_category::message` has to return a `std::string`, and an exception holds one.
+///
+/// **Exceptions.** `Check`, `Make` and `Length` throw and nothing else does. Where exceptions are
+/// switched off these three are left out.
+///
+/// **Threads.** As with the functions themselves, different objects may be used at the same time.
+#ifndef VELKORD_HPP_
+#define VELKORD_HPP_
+
+#include <concepts>
+#include <cstddef>
+#include <cstdint>
+#include <iterator>
+#include <memory>
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <tuple>
+#include <type_traits>
+#include <utility>
+
+#include "Velkord.h"
+
+namespace velkord {
+
+// -------------------------------------------------------------------------------------------------
+// Handles
+// -------------------------------------------------------------------------------------------------
+
+/// Releases an object by the Free function of its type.
+struct Free {
+  /// Of a node the whole chain behind it goes too.
+  /// @{
+  void operator()(Anybuf* chain) const noexcept { ASN1_FreeAnybuf(chain); }
+  void operator()(ObjectID* record) const noexcept { ASN1_FreeObjectID(record); }
+  void operator()(AttributeTypeAndValue* record) const noexcept {
+    ASN1_FreeAttributeTypeAndValue(record);
+  }
+  void operator()(TBSCertificate* record) const noexcept { ASN1_FreeTBSCertificate(record); }
+  void operator()(Certificate* record) const noexcept { ASN1_FreeCertificate(record); }
+  void operator()(X509Cert* record) const noexcept { X509CertFree(record); }
+  void operator()(RevokedCertificate* record) const noexcept {
+    ASN1_CRL_FreeRevokedCertificate(record);
+  }
+  void operator()(TbsCertList* record) const noexcept { ASN1_CRL_FreeTbsCertList(record); }
+  void operator()(CertificateList* record) const noexcept { ASN1_CRL_FreeCertificateList(record); }
+  void operator()(PKCS10* record) const noexcept { ASN1_FreePKCS10(record); }
+  void operator()(PKCS10Request* record) const noexcept { ASN1_FreePKCS10Request(record); }
+  void operator()(ExtendedCertificateInfo* record) const noexcept {
+    ASN1_PKCS6_FreeExtendedCertificateInfo(record);
+  }
+  void operator()(ExtendedCertificate* record) const noexcept {
+    ASN1_PKCS6_FreeExtendedCertificate(record);
+  }
+  void operator()(PKCS7Context* record) const noexcept { ASN1_PKCS7_FreeContext(record); }
+  /// @}
+};
+
+/// Owns a node or record. `get()` is what a function takes. `release()` is for what takes an object
+/// over: a field of a record, `next`, and `ASN1_SetAlgorithmIdentifier` as its comment tells.
+template <typename Object>
+using Handle = std::unique_ptr<Object, Free>;
+
+/// Owns a node and every node behind it: the head of a chain holds the whole of it.
+using NodePtr = Handle<Anybuf>;
+
+/// Stands for a handle in a call, as its out pointer. `Out` makes it.
+template <typename Pointer>
+class OutPointer {
+ public:
+  /// Both live for the one statement of the call.
+  explicit OutPointer(Pointer& handle) noexcept : handle_(handle), object_(handle.get()) {}
+  ~OutPointer() {
+    if (object_ != handle_.get()) handle_.reset(object_);
+  }
+  OutPointer(const OutPointer&) = delete;
+  OutPointer& operator=(const OutPointer&) = delete;
+
+  /// What the function takes.
+  // NOLINTNEXTLINE(google-explicit-constructor): it stands where the out pointer does.
+  operator typename Pointer::pointer *() noexcept { return &object_; }
+
+ private:
+  Pointer& handle_;
+  typename Pointer::pointer object_;
+};
+
+/// The out pointer of a call, for any `std::unique_ptr`:
+/// `ASN1_ReadSequence(node.get(), Out(children))`. The handle has the new object, and has released
+/// the one before, once the whole statement of the call has ended, and not within it. A call that
+/// fails or writes nothing leaves the handle as it was.
+template <typename Pointer>
+[[nodiscard]] OutPointer<Pointer> Out(Pointer& handle) noexcept {
+  return OutPointer<Pointer>(handle);
+}
+
+// -------------------------------------------------------------------------------------------------
+// Views
+// -------------------------------------------------------------------------------------------------
+
+/// Bytes that belong to something else.
+using Bytes = std::span<const std::uint8_t>;
+
+/// The bytes of a node, record or text, for as long as that lives. Null `data` is no bytes.
+/// @{
+[[nodiscard]] inline Bytes View(const Anybuf& node) noexcept {
+  return node.data == nullptr ? Bytes() : Bytes(node.data, node.dataLen);
+}
+[[nodiscard]] inline Bytes View(const ObjectID& record) noexcept {
+  return record.data == nullptr ? Bytes() : Bytes(record.data, record.dataLen);
+}
+[[nodiscard]] inline Bytes View(std::string_view text) noexcept {
+  return {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()};
+}
+/// @}
+
+// -------------------------------------------------------------------------------------------------
+// Chains
+// -------------------------------------------------------------------------------------------------
+
+/// The objects of a chain as a range that owns nothing:
+/// `for (const Anybuf& node : velkord::Chain(handle.get()))`. For all that is linked through `next`
+/// to its own type: nodes and the entries of an inspected certificate. A null pointer is a range of
+/// none. Removing or freeing an object makes the iterators at it invalid, as with a list.
+template <typename Link>
+class Chain {
+ public:
+  /// A forward iterator.
+  class Iterator {
+   public:
+    /// What `std::iterator_traits` asks for.
+    /// @{
+    using iterator_category = std::forward_iterator_tag;
+    using value_type = std::remove_const_t<Link>;
+    using difference_type = std::ptrdiff_t;
+    using pointer = Link*;
+    using reference = Link&;
+    /// @}
+
+    /// The end of every chain.
+    Iterator() = default;
+    /// At an object.
+    explicit Iterator(Link* at) noexcept : at_(at) {}
+
+    /// What a forward iterator does.
+    /// @{
+    Link& operator*() const noexcept { return *at_; }
+    Link* operator->() const noexcept { return at_; }
+    Iterator& operator++() noexcept {
+      at_ = at_->next;
+      return *this;
+    }
+    // NOLINTNEXTLINE(cert-dcl21-cpp): a constant copy makes it no iterator.
+    Iterator operator++(int) noexcept {
+      const Iterator before = *this;
+      ++*this;
+      return before;
+    }
+    bool operator==(const Iterator&) const = default;
+    /// @}
+
+   private:
+    Link* at_ = nullptr;
+  };
+
+  /// From an object on, null for none.
+  explicit Chain(Link* head) noexcept : head_(head) {}
+
+  /// The range.
+  /// @{
+  Iterator begin() const noexcept { return Iterator(head_); }
+  Iterator end() const noexcept { return Iterator(); }
+  /// @}
+
+ private:
+  Link* head_;
+};
+
+/// Builds a chain. It knows the last node, so that n nodes take n steps; `ASN1_AddSequence` and its
+/// like walk the whole chain, copy the node, and cannot tell that memory ran out.
+class ChainBuilder {
+ public:
+  /// Appends each of the chains in turn.
+  template <std::same_as<NodePtr>... Chains>
+  explicit ChainBuilder(Chains... chains) noexcept {
+    (Append(std::move(chains)), ...);
+  }
+  ChainBuilder(const ChainBuilder&) = delete;
+  ChainBuilder& operator=(const ChainBuilder&) = delete;
+  ~ChainBuilder() = default;
+
+  /// Takes a node and all behind it. Null adds nothing.
+  void Append(NodePtr chain) noexcept {
+    Anybuf* const first = chain.get();
+    if (first == nullptr) return;
+    if (last_ == nullptr) {
+      head_ = std::move(chain);
+    } else {
+      first->prev = last_;
+      last_->next = chain.release();
+    }
+    last_ = first;
+    while (last_->next != nullptr) last_ = last_->next;
+  }
+
+  /// The first node, null when there is none, which the writers take for a chain without elements.
+  /// Nodes may be changed through it, but not linked otherwise.
+  [[nodiscard]] Anybuf* Head() const noexcept { return head_.get(); }
+
+  /// Hands over the chain. The builder is empty then.
+  [[nodiscard]] NodePtr Take() noexcept {
+    last_ = nullptr;
+    return std::move(head_);
+  }
+
+ private:
+  NodePtr head_;
+  Anybuf* last_ = nullptr;
+};
+
+// -------------------------------------------------------------------------------------------------
+// Errors
+// -------------------------------------------------------------------------------------------------
+
+/// The codes of a failure. One converts to a `std::error_code` and compares with it.
+enum class Errc : std::int32_t {
+  kFailure = VELKORD_FAILURE,
+  kSizeMismatch = VELKORD_SIZE_MISMATCH,
+  kNegativeTime = VELKORD_NEGATIVE_TIME,
+  kBadTime = VELKORD_BAD_TIME,
+  kWrongTag = VELKORD_WRONG_TAG,
+  kNullArgument = VELKORD_NULL_ARGUMENT,
+  kOutOfMemory = VELKORD_OUT_OF_MEMORY,
+};
+
+/// The category of all codes of the library. `error_category()` gives the one object of it.
+class ErrorCategory final : public std::error_category {
+ public:
+  /// "Velkord".
+  [[nodiscard]] const char* name() const noexcept override { return "Velkord"; }
+
+  /// The code's name in Velkord.h and its number, `VELKORD_WRONG_TAG (-7)`: what it tells depends
+  /// on the function, whose comment says it.
+  [[nodiscard]] std::string message(int code) const override {
+    return std::string(CodeName(code)) + " (" + std::to_string(code) + ")";
+  }
+
+ private:
+  static const char* CodeName(int code) noexcept {
+    switch (code) {
+      case VELKORD_OK:
+        return "VELKORD_OK";
+      case VELKORD_FAILURE:
+        return "VELKORD_FAILURE";
+      case VELKORD_SIZE_MISMATCH:
+        return "VELKORD_SIZE_MISMATCH";
+      case VELKORD_NEGATIVE_TIME:
+        return "VELKORD_NEGATIVE_TIME";
+      case VELKORD_BAD_TIME:
+        return "VELKORD_BAD_TIME";
+      case VELKORD_WRONG_TAG:
+        return "VELKORD_WRONG_TAG";
+      case VELKORD_NULL_ARGUMENT:
+        return "VELKORD_NULL_ARGUMENT";
+      case VELKORD_OUT_OF_MEMORY:
+        return "VELKORD_OUT_OF_MEMORY";
+      default:
+        return "unknown code";
+    }
+  }
+};
+
+/// The category of the codes.
+[[nodiscard]] inline const std::error_category& error_category() noexcept {
+  static const ErrorCategory category;
+  return category;
+}
+
+/// What a function returned as an error code, which is false for `VELKORD_OK`. Not for the
+/// functions whose comment tells of other results.
+[[nodiscard]] inline std::error_code ToErrorCode(std::int32_t code) noexcept {
+  return {code, error_category()};
+}
+
+/// The same of a named code.
+[[nodiscard]] inline std::error_code make_error_code(Errc code) noexcept {
+  return ToErrorCode(static_cast<std::int32_t>(code));
+}
+
+}  // namespace velkord
+
+/// @cond
+template <>
+struct std::is_error_code_enum<velkord::Errc> : std::true_type {};
+/// @endcond
+
+// -------------------------------------------------------------------------------------------------
+// For callers that use exceptions
+// -------------------------------------------------------------------------------------------------
+
+#ifdef __cpp_exceptions
+namespace velkord {
+
+/// Throws `std::system_error` with the code and `what`, the step that failed, unless `code` is
+/// `VELKORD_OK`.
+inline void Check(std::int32_t code, const char* what) {
+  if (code != VELKORD_OK) throw std::system_error(ToErrorCode(code), what);
+}
+
+/// Calls a function whose last parameter is an out pointer and gives what it made:
+/// `Make("write a time", ASN1_WriteUtcTime, &seconds)`. `in` is what goes in front, as the function
+/// takes it. Throws as `Check` does.
+template <typename... Parameters, typename... In>
+[[nodiscard]] auto Make(const char* what, std::int32_t (*function)(Parameters...), In... in) {
+  static_assert(sizeof...(In) + 1 == sizeof...(Parameters));
+  using Last = std::tuple_element_t<sizeof...(In), std::tuple<Parameters...>>;
+  Handle<std::remove_pointer_t<std::remove_pointer_t<Last>>> made;
+  Check(function(in..., Out(made)), what);
+  return made;
+}
+
+/// The size of a container, span or text as the library counts, in 32 bits; `Length<int32_t>` is
+/// for the functions that count in signed numbers. Throws `std::length_error` for more.
+template <std::integral Count = std::uint32_t, typename Container>
+[[nodiscard]] Count Length(const Container& bytes) {
+  if (!std::in_range<Count>(std::size(bytes))) {
+    throw std::length_error("more bytes than a 32-bit length counts");
+  }
+  return static_cast<Count>(std::size(bytes));
+}
+
+}  // namespace velkord
+#endif  // __cpp_exceptions
+
+#endif  // VELKORD_HPP_
