@@ -52,14 +52,10 @@ uint32_t ImpliedUnusedBits(Bytes bits);
 // The header of an element: tag and length octets, and the octet that the content has in front.
 class DerHeader {
  public:
-  // A length beyond 32 bits is refused by whoever makes the element, which is never smaller.
-  DerHeader(uint8_t tag, uint64_t contentLength)
-      : tag_(tag),
-        lengthSize_(DerLengthSize(static_cast<uint32_t>(contentLength))),
-        contentLength_(contentLength) {}
+  DerHeader(uint8_t tag, uint64_t contentLength) : DerHeader(tag, contentLength, false, 0) {}
   // With the unused-bits octet of a BIT STRING.
   static DerHeader ForBitString(uint32_t unusedBits, uint64_t bitsLength) {
-    return {kBitString, bitsLength + 1, static_cast<uint8_t>(unusedBits)};
+    return {kBitString, bitsLength + 1, true, static_cast<uint8_t>(unusedBits)};
   }
   // With the octet that the content of such an element has in front: a BIT STRING's is the low byte
   // of `unusedBits`, which no other type looks at; an INTEGER's is zero, and there only when the
@@ -67,7 +63,7 @@ class DerHeader {
   static DerHeader For(uint8_t tag, Bytes content, uint32_t unusedBits = 0) {
     if (tag == kBitString) return ForBitString(unusedBits, content.size());
     if (tag == kInteger && !content.empty() && content[0] >= 0x80) {
-      return {tag, uint64_t{content.size()} + 1, 0};
+      return {tag, uint64_t{content.size()} + 1, true, 0};
     }
     return {tag, content.size()};
   }
@@ -79,14 +75,17 @@ class DerHeader {
   uint8_t* Put(uint8_t* place) const;
 
  private:
-  DerHeader(uint8_t tag, uint64_t contentLength, uint8_t octet) : DerHeader(tag, contentLength) {
-    hasOctet_ = true;
-    octet_ = octet;
-  }
+  // A length beyond 32 bits is refused by whoever makes the element, which is never smaller.
+  DerHeader(uint8_t tag, uint64_t contentLength, bool hasOctet, uint8_t octet)
+      : tag_(tag),
+        hasOctet_(hasOctet),
+        octet_(octet),
+        lengthSize_(DerLengthSize(static_cast<uint32_t>(contentLength))),
+        contentLength_(contentLength) {}
 
   uint8_t tag_;
-  bool hasOctet_ = false;
-  uint8_t octet_ = 0;
+  bool hasOctet_;
+  uint8_t octet_;
   uint32_t lengthSize_;
   uint64_t contentLength_;
 };
