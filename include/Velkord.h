@@ -121,7 +121,7 @@ typedef struct TBSCertificate {
   Anybuf* subjectPublicKeyInfo;  ///< SubjectPublicKeyInfo.
   Anybuf* issuerUniqueID;        ///< `[1]` IMPLICIT BIT STRING, optional.
   Anybuf* subjectUniqueID;       ///< `[2]` IMPLICIT BIT STRING, optional.
-  Anybuf* extensions;  ///< Optional: `[3]` around the list when set, SEQUENCE when decoded.
+  Anybuf* extensions;  ///< Optional: `[3]` around the list; after a decode SEQUENCE around it.
 } TBSCertificate;
 
 /// A signed certificate. Owns its three nodes.
@@ -585,9 +585,10 @@ VELKORD_API int32_t ASN1_WriteGeneralizedTime(const int32_t* time, Anybuf** out)
 VELKORD_API int32_t ASN1_WriteUtcTime(const int32_t* time, Anybuf** out);
 /// @}
 
-/// Reads the time of a TLV node as local time. UTCTime years 00 to 69 are 2000 to 2069. Returns 0,
-/// -1 (length octets), -2 (no whole header), -5 (short, no digits, no "Z"), -7 (another
-/// `dataType`), -7000 (before 1970 or beyond 2038) or -8.
+/// Reads the time of a TLV node as local time. UTCTime years 00 to 69 are 2000 to 2069, and fields
+/// out of range carry over: day 32 of January is 1 February. Returns 0, -1
+/// (length octets), -2 (no whole header), -5 (short, no digits, no "Z"), -7 (another `dataType`),
+/// -7000 (before 1970 or beyond 2038) or -8.
 /// @{
 VELKORD_API int32_t ASN1_ReadGeneralizedTime(const Anybuf* source, int32_t* time);
 VELKORD_API int32_t ASN1_ReadUtcTime(const Anybuf* source, int32_t* time);
