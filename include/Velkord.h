@@ -53,6 +53,7 @@ extern "C" {
 
 // -------------------------------------------------------------------------------------------------
 /// @defgroup codes Return codes
+/// What functions return.
 /// @{
 // -------------------------------------------------------------------------------------------------
 
@@ -74,6 +75,7 @@ enum {
 
 // -------------------------------------------------------------------------------------------------
 /// @defgroup records Records
+/// What functions fill and read, field by field.
 /// @{
 // -------------------------------------------------------------------------------------------------
 
@@ -280,6 +282,7 @@ typedef struct X509Cert {
 
 // -------------------------------------------------------------------------------------------------
 /// @defgroup nodes Value nodes
+/// The value that all others are made of.
 /// @{
 // -------------------------------------------------------------------------------------------------
 
@@ -378,6 +381,7 @@ VELKORD_API int32_t ASN1_WriteSetFromDERData(const uint8_t* bytes, uint32_t leng
 
 // -------------------------------------------------------------------------------------------------
 /// @defgroup object_ids OBJECT IDENTIFIER
+/// Dotted text, content octets and TLV nodes.
 /// @{
 // -------------------------------------------------------------------------------------------------
 
@@ -411,6 +415,7 @@ VELKORD_API int32_t ASN1_ReadObjectIdToBytes(const Anybuf* source, uint8_t* out,
 
 // -------------------------------------------------------------------------------------------------
 /// @defgroup strings Byte and character strings, ENUMERATED, BOOLEAN, NULL
+/// Writing differs by the tag alone, and reading is the same for all.
 /// @{
 // -------------------------------------------------------------------------------------------------
 
@@ -511,6 +516,7 @@ VELKORD_API int32_t ASN1_ReadBmpStringToBytes(const Anybuf* source, uint8_t* out
 
 // -------------------------------------------------------------------------------------------------
 /// @defgroup tags Tags and raw DER
+/// EXPLICIT and IMPLICIT tags, and DER bytes stored as they are.
 /// @{
 // -------------------------------------------------------------------------------------------------
 
@@ -598,6 +604,7 @@ VELKORD_API int32_t ASN1_ReadUtcTime(const Anybuf* source, int32_t* time);
 
 // -------------------------------------------------------------------------------------------------
 /// @defgroup names Names
+/// Attributes, relative names and names.
 /// @{
 // -------------------------------------------------------------------------------------------------
 
@@ -688,6 +695,7 @@ VELKORD_API void ASN1_FreeValidity(Anybuf* chain);
 
 // -------------------------------------------------------------------------------------------------
 /// @defgroup key_info Validity, algorithm and key info
+/// Parts that certificates and requests share.
 /// @{
 // -------------------------------------------------------------------------------------------------
 
@@ -742,6 +750,7 @@ VELKORD_API int32_t ASN1_GetSubjectPublicKeyInfo(const Anybuf* source, Anybuf** 
 
 // -------------------------------------------------------------------------------------------------
 /// @defgroup extensions Extensions
+/// Single, and as a list.
 /// @{
 // -------------------------------------------------------------------------------------------------
 
@@ -769,6 +778,7 @@ VELKORD_API int32_t ASN1_GetExtension(const Anybuf* source, Anybuf** outOid, Any
 
 // -------------------------------------------------------------------------------------------------
 /// @defgroup certificates Certificates: the signed part
+/// What is signed of a certificate.
 /// @{
 // -------------------------------------------------------------------------------------------------
 
@@ -912,6 +922,7 @@ VELKORD_API int32_t ASN1_PKCS6_CertificateDecode(const uint8_t* bytes, uint32_t 
 
 // -------------------------------------------------------------------------------------------------
 /// @defgroup inspection Certificate inspection
+/// The subject of a decoded certificate, and a value in its extensions.
 /// @{
 // -------------------------------------------------------------------------------------------------
 
@@ -944,6 +955,7 @@ VELKORD_API int32_t X509CertGetOIDValue(const X509Cert* record, const char* oidT
 
 // -------------------------------------------------------------------------------------------------
 /// @defgroup list_entries Revocation lists: an entry
+/// One revoked certificate.
 /// @{
 // -------------------------------------------------------------------------------------------------
 
@@ -991,6 +1003,7 @@ VELKORD_API int32_t ASN1_CRL_RevokedCertificateDecode(const uint8_t* bytes, uint
 
 // -------------------------------------------------------------------------------------------------
 /// @defgroup lists Revocation lists: the signed part
+/// What is signed of a list.
 /// @{
 // -------------------------------------------------------------------------------------------------
 
@@ -1045,6 +1058,7 @@ VELKORD_API int32_t ASN1_CRL_TbsCertListDecode(const uint8_t* bytes, uint32_t le
 
 // -------------------------------------------------------------------------------------------------
 /// @defgroup requests PKCS#10: the signed part
+/// What is signed of a request.
 /// @{
 // -------------------------------------------------------------------------------------------------
 
@@ -1087,6 +1101,7 @@ VELKORD_API int32_t ASN1_PKCS10Decode(const uint8_t* bytes, uint32_t length, PKC
 
 // -------------------------------------------------------------------------------------------------
 /// @defgroup extended_certificates PKCS#6: the signed part
+/// What is signed of an extended certificate.
 /// @{
 // -------------------------------------------------------------------------------------------------
 
@@ -1129,6 +1144,7 @@ VELKORD_API int32_t ASN1_PKCS6_CertificateInfoDecode(const uint8_t* bytes, uint3
 
 // -------------------------------------------------------------------------------------------------
 /// @defgroup messages PKCS#7: the ContentInfo around a message
+/// A content behind the identifier of its type.
 /// @{
 // -------------------------------------------------------------------------------------------------
 

@@ -13,7 +13,7 @@ public static class Velkord
     private const string Library = "Velkord";
     private const CallingConvention Cdecl = CallingConvention.Cdecl;
 
-    // ==== Return codes
+    // ==== Return codes. What functions return.
     // Success.
     public const int VELKORD_OK = 0;
     // A length of more than 4 subsequent octets; an element that overruns its parent or is missing
@@ -32,7 +32,7 @@ public static class Velkord
     // Out of memory for a record; a time the platform refuses.
     public const int VELKORD_OUT_OF_MEMORY = -7000;
 
-    // ==== Records
+    // ==== Records. What functions fill and read, field by field.
 
     // The value node.
     [StructLayout(LayoutKind.Sequential)]
@@ -283,7 +283,7 @@ public static class Velkord
         public IntPtr entriesB;
     }
 
-    // ==== Value nodes
+    // ==== Value nodes. The value that all others are made of.
 
     // Makes a content node with a copy of `length` bytes.
     [DllImport(Library, CallingConvention = Cdecl)]
@@ -369,7 +369,7 @@ public static class Velkord
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_WriteSetFromDERData(byte[] bytes, uint length, ref IntPtr @out);
 
-    // ==== OBJECT IDENTIFIER
+    // ==== OBJECT IDENTIFIER. Dotted text, content octets and TLV nodes.
 
     // Turns dotted text of `textLength` characters into content octets; blanks may stand for
     // points.
@@ -394,7 +394,8 @@ public static class Velkord
     public static extern int ASN1_ReadObjectIdToBytes(IntPtr source, [In, Out] byte[] @out,
         ref uint outLength);
 
-    // ==== Byte and character strings, ENUMERATED, BOOLEAN, NULL
+    // ==== Byte and character strings, ENUMERATED, BOOLEAN, NULL. Writing differs by the tag alone,
+    // ==== and reading is the same for all.
 
     // Makes a TLV node over a content node of any type.
     [DllImport(Library, CallingConvention = Cdecl)]
@@ -528,7 +529,7 @@ public static class Velkord
     public static extern int ASN1_ReadBmpStringToBytes(IntPtr source, [In, Out] byte[] @out,
         ref uint outLength);
 
-    // ==== Tags and raw DER
+    // ==== Tags and raw DER. EXPLICIT and IMPLICIT tags, and DER bytes stored as they are.
 
     // Makes a TLV node of tag octet `tagNumber | 0xA0` around the source's bytes, or around plain
     // bytes; of `tagNumber` the low byte counts.
@@ -611,7 +612,7 @@ public static class Velkord
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_ReadUtcTime(IntPtr source, ref int time);
 
-    // ==== Names
+    // ==== Names. Attributes, relative names and names.
 
     // Makes a record with copies of two TLV nodes.
     [DllImport(Library, CallingConvention = Cdecl)]
@@ -715,7 +716,7 @@ public static class Velkord
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern void ASN1_FreeValidity(IntPtr chain);
 
-    // ==== Validity, algorithm and key info
+    // ==== Validity, algorithm and key info. Parts that certificates and requests share.
 
     // Makes the SEQUENCE TLV node of two TLV nodes: notBefore and notAfter, or modulus and
     // exponent.
@@ -759,7 +760,7 @@ public static class Velkord
     public static extern int ASN1_GetSubjectPublicKeyInfo(IntPtr source, ref IntPtr outAlgorithm,
         ref IntPtr outKey);
 
-    // ==== Extensions
+    // ==== Extensions. Single, and as a list.
 
     // Makes an Extension TLV node of an OID, a BOOLEAN, which may be null, and an OCTET STRING, all
     // TLV nodes; none is tested.
@@ -777,7 +778,7 @@ public static class Velkord
     public static extern int ASN1_GetExtension(IntPtr source, ref IntPtr outOid,
         ref IntPtr outCritical, ref IntPtr outValue);
 
-    // ==== Certificates: the signed part
+    // ==== Certificates: the signed part. What is signed of a certificate.
 
     // Makes an empty record.
     [DllImport(Library, CallingConvention = Cdecl)]
@@ -934,7 +935,8 @@ public static class Velkord
     public static extern int ASN1_PKCS6_CertificateDecode(byte[] bytes, uint length,
         ref IntPtr @out);
 
-    // ==== Certificate inspection
+    // ==== Certificate inspection. The subject of a decoded certificate, and a value in its
+    // ==== extensions.
 
     // Makes an empty record and also stores it in `out`, which may be null.
     [DllImport(Library, CallingConvention = Cdecl)]
@@ -955,7 +957,7 @@ public static class Velkord
     public static extern int X509CertGetOIDValue(IntPtr record, byte[] oidText, int textLength,
         [In, Out] byte[] value, ref uint valueLength);
 
-    // ==== Revocation lists: an entry
+    // ==== Revocation lists: an entry. One revoked certificate.
 
     // Makes an empty record.
     [DllImport(Library, CallingConvention = Cdecl)]
@@ -990,7 +992,7 @@ public static class Velkord
     public static extern int ASN1_CRL_RevokedCertificateDecode(byte[] bytes, uint length,
         ref IntPtr @out);
 
-    // ==== Revocation lists: the signed part
+    // ==== Revocation lists: the signed part. What is signed of a list.
 
     // Makes an empty record.
     [DllImport(Library, CallingConvention = Cdecl)]
@@ -1038,7 +1040,7 @@ public static class Velkord
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_CRL_TbsCertListDecode(byte[] bytes, uint length, ref IntPtr @out);
 
-    // ==== PKCS#10: the signed part
+    // ==== PKCS#10: the signed part. What is signed of a request.
 
     // Makes an empty record.
     [DllImport(Library, CallingConvention = Cdecl)]
@@ -1071,7 +1073,7 @@ public static class Velkord
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_PKCS10Decode(byte[] bytes, uint length, ref IntPtr @out);
 
-    // ==== PKCS#6: the signed part
+    // ==== PKCS#6: the signed part. What is signed of an extended certificate.
 
     // Makes an empty record.
     [DllImport(Library, CallingConvention = Cdecl)]
@@ -1102,7 +1104,7 @@ public static class Velkord
     public static extern int ASN1_PKCS6_CertificateInfoDecode(byte[] bytes, uint length,
         ref IntPtr @out);
 
-    // ==== PKCS#7: the ContentInfo around a message
+    // ==== PKCS#7: the ContentInfo around a message. A content behind the identifier of its type.
 
     // Makes an empty record.
     [DllImport(Library, CallingConvention = Cdecl)]

@@ -12,7 +12,7 @@ interface
 const
   VelkordLibrary = {$IFDEF MSWINDOWS}'Velkord.dll'{$ELSE}'libVelkord.so'{$ENDIF};
 
-// ==== Return codes
+// ==== Return codes. What functions return.
   // Success.
   VELKORD_OK = 0;
   // A length of more than 4 subsequent octets; an element that overruns its parent or is missing
@@ -31,7 +31,7 @@ const
   // Out of memory for a record; a time the platform refuses.
   VELKORD_OUT_OF_MEMORY = -7000;
 
-// ==== Records
+// ==== Records. What functions fill and read, field by field.
 
 type
   // The value node.
@@ -250,7 +250,7 @@ type
     entriesB: PCertWideEntry;
   end;
 
-// ==== Value nodes
+// ==== Value nodes. The value that all others are made of.
 
 // Makes a content node with a copy of `length` bytes.
 function ASN1_CreateAnybuf(ABytes: PByte; ALength: Cardinal; AType: Byte;
@@ -330,7 +330,7 @@ function ASN1_WriteSequenceFromDERBytes(ABytes: PByte; ALength: Cardinal;
 function ASN1_WriteSetFromDERData(ABytes: PByte; ALength: Cardinal; var AOut: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_WriteSetFromDERData';
 
-// ==== OBJECT IDENTIFIER
+// ==== OBJECT IDENTIFIER. Dotted text, content octets and TLV nodes.
 
 // Turns dotted text of `textLength` characters into content octets; blanks may stand for points.
 function ASN1_OBJECT_a2d(AOut: PByte; var AOutLength: Cardinal; AText: PAnsiChar;
@@ -351,7 +351,8 @@ function ASN1_ReadObjectId(ASource: PAnybuf; var AOut: PObjectID): Integer;
 function ASN1_ReadObjectIdToBytes(ASource: PAnybuf; AOut: PByte; var AOutLength: Cardinal): Integer;
   cdecl; external VelkordLibrary name 'ASN1_ReadObjectIdToBytes';
 
-// ==== Byte and character strings, ENUMERATED, BOOLEAN, NULL
+// ==== Byte and character strings, ENUMERATED, BOOLEAN, NULL. Writing differs by the tag alone, and
+// ==== reading is the same for all.
 
 // Makes a TLV node over a content node of any type.
 function ASN1_WriteOctetString(ASource: PAnybuf; var AOut: PAnybuf): Integer;
@@ -479,7 +480,7 @@ function ASN1_ReadBmpStringToBytes(ASource: PAnybuf; AOut: PByte;
   var AOutLength: Cardinal): Integer;
   cdecl; external VelkordLibrary name 'ASN1_ReadBmpStringToBytes';
 
-// ==== Tags and raw DER
+// ==== Tags and raw DER. EXPLICIT and IMPLICIT tags, and DER bytes stored as they are.
 
 // Makes a TLV node of tag octet `tagNumber | 0xA0` around the source's bytes, or around plain
 // bytes; of `tagNumber` the low byte counts.
@@ -557,7 +558,7 @@ function ASN1_ReadGeneralizedTime(ASource: PAnybuf; var ATime: Integer): Integer
 function ASN1_ReadUtcTime(ASource: PAnybuf; var ATime: Integer): Integer;
   cdecl; external VelkordLibrary name 'ASN1_ReadUtcTime';
 
-// ==== Names
+// ==== Names. Attributes, relative names and names.
 
 // Makes a record with copies of two TLV nodes.
 function ASN1_SetAttributeTypeAndValue(AType: PAnybuf; AValue: PAnybuf;
@@ -661,7 +662,7 @@ procedure ASN1_FreeRSAPublicKey(AChain: PAnybuf);
 procedure ASN1_FreeValidity(AChain: PAnybuf);
   cdecl; external VelkordLibrary name 'ASN1_FreeValidity';
 
-// ==== Validity, algorithm and key info
+// ==== Validity, algorithm and key info. Parts that certificates and requests share.
 
 // Makes the SEQUENCE TLV node of two TLV nodes: notBefore and notAfter, or modulus and exponent.
 function ASN1_SetValidity(ANotBefore: PAnybuf; ANotAfter: PAnybuf; var AOut: PAnybuf): Integer;
@@ -701,7 +702,7 @@ function ASN1_GetSubjectPublicKeyInfo(ASource: PAnybuf; var AOutAlgorithm: PAnyb
   var AOutKey: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_GetSubjectPublicKeyInfo';
 
-// ==== Extensions
+// ==== Extensions. Single, and as a list.
 
 // Makes an Extension TLV node of an OID, a BOOLEAN, which may be null, and an OCTET STRING, all TLV
 // nodes; none is tested.
@@ -717,7 +718,7 @@ function ASN1_GetExtensionOne(AId: Integer; AOid: PByte; AOidLength: Cardinal; A
 function ASN1_GetExtension(ASource: PAnybuf; var AOutOid: PAnybuf; var AOutCritical: PAnybuf;
   var AOutValue: PAnybuf): Integer; cdecl; external VelkordLibrary name 'ASN1_GetExtension';
 
-// ==== Certificates: the signed part
+// ==== Certificates: the signed part. What is signed of a certificate.
 
 // Makes an empty record.
 function ASN1_CreateTBSCertificate(var AOut: PTBSCertificate): Integer;
@@ -879,7 +880,7 @@ function ASN1_PKCS6_CertificateDecode(ABytes: PByte; ALength: Cardinal;
   var AOut: PExtendedCertificate): Integer;
   cdecl; external VelkordLibrary name 'ASN1_PKCS6_CertificateDecode';
 
-// ==== Certificate inspection
+// ==== Certificate inspection. The subject of a decoded certificate, and a value in its extensions.
 
 // Makes an empty record and also stores it in `out`, which may be null.
 function X509CertCreate(var AOut: PX509Cert): PX509Cert;
@@ -899,7 +900,7 @@ function X509CertGetOIDValue(ARecord: PX509Cert; AOidText: PAnsiChar; ATextLengt
   AValue: PByte; var AValueLength: Cardinal): Integer;
   cdecl; external VelkordLibrary name 'X509CertGetOIDValue';
 
-// ==== Revocation lists: an entry
+// ==== Revocation lists: an entry. One revoked certificate.
 
 // Makes an empty record.
 function ASN1_CRL_CreateRevokedCertificate(var AOut: PRevokedCertificate): Integer;
@@ -934,7 +935,7 @@ function ASN1_CRL_RevokedCertificateDecode(ABytes: PByte; ALength: Cardinal;
   var AOut: PRevokedCertificate): Integer;
   cdecl; external VelkordLibrary name 'ASN1_CRL_RevokedCertificateDecode';
 
-// ==== Revocation lists: the signed part
+// ==== Revocation lists: the signed part. What is signed of a list.
 
 // Makes an empty record.
 function ASN1_CRL_CreateTbsCertList(var AOut: PTbsCertList): Integer;
@@ -984,7 +985,7 @@ function ASN1_CRL_TbsCertListDecode(ABytes: PByte; ALength: Cardinal;
   var AOut: PTbsCertList): Integer;
   cdecl; external VelkordLibrary name 'ASN1_CRL_TbsCertListDecode';
 
-// ==== PKCS#10: the signed part
+// ==== PKCS#10: the signed part. What is signed of a request.
 
 // Makes an empty record.
 function ASN1_CreatePKCS10(var AOut: PPKCS10): Integer;
@@ -1016,7 +1017,7 @@ function ASN1_PKCS10WriteData(ARecord: PPKCS10; var AOut: PAnybuf): Integer;
 function ASN1_PKCS10Decode(ABytes: PByte; ALength: Cardinal; var AOut: PPKCS10): Integer;
   cdecl; external VelkordLibrary name 'ASN1_PKCS10Decode';
 
-// ==== PKCS#6: the signed part
+// ==== PKCS#6: the signed part. What is signed of an extended certificate.
 
 // Makes an empty record.
 function ASN1_PKCS6_CreateExtendedCertificateInfo(var AOut: PExtendedCertificateInfo): Integer;
@@ -1051,7 +1052,7 @@ function ASN1_PKCS6_CertificateInfoDecode(ABytes: PByte; ALength: Cardinal;
   var AOut: PExtendedCertificateInfo): Integer;
   cdecl; external VelkordLibrary name 'ASN1_PKCS6_CertificateInfoDecode';
 
-// ==== PKCS#7: the ContentInfo around a message
+// ==== PKCS#7: the ContentInfo around a message. A content behind the identifier of its type.
 
 // Makes an empty record.
 function ASN1_PKCS7_CreateContext(var AOut: PPKCS7Context): Integer;

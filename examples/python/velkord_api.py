@@ -274,7 +274,7 @@ def _of(result, /, **arguments):
 
 # The types of the result and of each argument.
 FUNCTIONS = {
-    # ==== Value nodes
+    # ==== Value nodes. The value that all others are made of.
     # Makes a content node with a copy of `length` bytes.
     "ASN1_CreateAnybuf": _of(c_int32, bytes=c_char_p, length=c_uint32, type=c_uint8,
         out=P(P(Anybuf))),
@@ -316,7 +316,7 @@ FUNCTIONS = {
     "ASN1_WriteSequenceFromDERBytes": _of(c_int32, bytes=c_char_p, length=c_uint32,
         out=P(P(Anybuf))),
     "ASN1_WriteSetFromDERData": _of(c_int32, bytes=c_char_p, length=c_uint32, out=P(P(Anybuf))),
-    # ==== OBJECT IDENTIFIER
+    # ==== OBJECT IDENTIFIER. Dotted text, content octets and TLV nodes.
     # Turns dotted text of `textLength` characters into content octets; blanks may stand for points.
     "ASN1_OBJECT_a2d": _of(c_int32, out=P(c_uint8), outLength=P(c_uint32), text=c_char_p,
         textLength=c_int32),
@@ -329,7 +329,8 @@ FUNCTIONS = {
     # Copies the content of a TLV node of any type to `out`, which needs room for all of it.
     "ASN1_ReadObjectIdToBytes": _of(c_int32, source=P(Anybuf), out=P(c_uint8),
         outLength=P(c_uint32)),
-    # ==== Byte and character strings, ENUMERATED, BOOLEAN, NULL
+    # ==== Byte and character strings, ENUMERATED, BOOLEAN, NULL. Writing differs by the tag alone,
+    # ==== and reading is the same for all.
     # Makes a TLV node over a content node of any type.
     "ASN1_WriteOctetString": _of(c_int32, source=P(Anybuf), out=P(P(Anybuf))),
     "ASN1_WriteBitString": _of(c_int32, source=P(Anybuf), out=P(P(Anybuf))),
@@ -389,7 +390,7 @@ FUNCTIONS = {
     # byte too.
     "ASN1_ReadBmpStringToBytes": _of(c_int32, source=P(Anybuf), out=P(c_uint8),
         outLength=P(c_uint32)),
-    # ==== Tags and raw DER
+    # ==== Tags and raw DER. EXPLICIT and IMPLICIT tags, and DER bytes stored as they are.
     # Makes a TLV node of tag octet `tagNumber | 0xA0` around the source's bytes, or around plain
     # bytes; of `tagNumber` the low byte counts.
     "ASN1_WriteExplicit": _of(c_int32, source=P(Anybuf), tagNumber=c_uint8, out=P(P(Anybuf))),
@@ -431,7 +432,7 @@ FUNCTIONS = {
     # Reads the time of a TLV node as local time.
     "ASN1_ReadGeneralizedTime": _of(c_int32, source=P(Anybuf), time=P(c_int32)),
     "ASN1_ReadUtcTime": _of(c_int32, source=P(Anybuf), time=P(c_int32)),
-    # ==== Names
+    # ==== Names. Attributes, relative names and names.
     # Makes a record with copies of two TLV nodes.
     "ASN1_SetAttributeTypeAndValue": _of(c_int32, type=P(Anybuf), value=P(Anybuf),
         out=P(P(AttributeTypeAndValue))),
@@ -481,7 +482,7 @@ FUNCTIONS = {
     "ASN1_FreeSubjectPublicKeyInfo": _of(None, chain=P(Anybuf)),
     "ASN1_FreeRSAPublicKey": _of(None, chain=P(Anybuf)),
     "ASN1_FreeValidity": _of(None, chain=P(Anybuf)),
-    # ==== Validity, algorithm and key info
+    # ==== Validity, algorithm and key info. Parts that certificates and requests share.
     # Makes the SEQUENCE TLV node of two TLV nodes: notBefore and notAfter, or modulus and exponent.
     "ASN1_SetValidity": _of(c_int32, notBefore=P(Anybuf), notAfter=P(Anybuf), out=P(P(Anybuf))),
     "ASN1_SetRSAPublicKey": _of(c_int32, modulus=P(Anybuf), exponent=P(Anybuf), out=P(P(Anybuf))),
@@ -507,7 +508,7 @@ FUNCTIONS = {
     # the unused-bits octet always 0.
     "ASN1_GetSubjectPublicKeyInfo": _of(c_int32, source=P(Anybuf), outAlgorithm=P(P(Anybuf)),
         outKey=P(P(Anybuf))),
-    # ==== Extensions
+    # ==== Extensions. Single, and as a list.
     # Makes an Extension TLV node of an OID, a BOOLEAN, which may be null, and an OCTET STRING, all
     # TLV nodes; none is tested.
     "ASN1_SetExtension": _of(c_int32, oid=P(Anybuf), critical=P(Anybuf), value=P(Anybuf),
@@ -518,7 +519,7 @@ FUNCTIONS = {
     # Opens an Extension TLV node: OBJECT IDENTIFIER, BOOLEAN and OCTET STRING as new TLV nodes.
     "ASN1_GetExtension": _of(c_int32, source=P(Anybuf), outOid=P(P(Anybuf)),
         outCritical=P(P(Anybuf)), outValue=P(P(Anybuf))),
-    # ==== Certificates: the signed part
+    # ==== Certificates: the signed part. What is signed of a certificate.
     # Makes an empty record.
     "ASN1_CreateTBSCertificate": _of(c_int32, out=P(P(TBSCertificate))),
     # Releases a record and its nodes.
@@ -597,7 +598,8 @@ FUNCTIONS = {
         out=P(P(PKCS10Request))),
     "ASN1_PKCS6_CertificateDecode": _of(c_int32, bytes=c_char_p, length=c_uint32,
         out=P(P(ExtendedCertificate))),
-    # ==== Certificate inspection
+    # ==== Certificate inspection. The subject of a decoded certificate, and a value in its
+    # ==== extensions.
     # Makes an empty record and also stores it in `out`, which may be null.
     "X509CertCreate": _of(P(X509Cert), out=P(P(X509Cert))),
     # Releases a record and all that its named fields hold.
@@ -609,7 +611,7 @@ FUNCTIONS = {
     # decoded `tbs`.
     "X509CertGetOIDValue": _of(c_int32, record=P(X509Cert), oidText=c_char_p, textLength=c_int32,
         value=P(c_uint8), valueLength=P(c_uint32)),
-    # ==== Revocation lists: an entry
+    # ==== Revocation lists: an entry. One revoked certificate.
     # Makes an empty record.
     "ASN1_CRL_CreateRevokedCertificate": _of(c_int32, out=P(P(RevokedCertificate))),
     # Releases a record and its nodes.
@@ -630,7 +632,7 @@ FUNCTIONS = {
     # Decodes the DER of one entry of exactly `length` bytes into a new record.
     "ASN1_CRL_RevokedCertificateDecode": _of(c_int32, bytes=c_char_p, length=c_uint32,
         out=P(P(RevokedCertificate))),
-    # ==== Revocation lists: the signed part
+    # ==== Revocation lists: the signed part. What is signed of a list.
     # Makes an empty record.
     "ASN1_CRL_CreateTbsCertList": _of(c_int32, out=P(P(TbsCertList))),
     # Releases a record and its nodes.
@@ -657,7 +659,7 @@ FUNCTIONS = {
     # Decodes the DER of one signed part of exactly `length` bytes into a new record.
     "ASN1_CRL_TbsCertListDecode": _of(c_int32, bytes=c_char_p, length=c_uint32,
         out=P(P(TbsCertList))),
-    # ==== PKCS#10: the signed part
+    # ==== PKCS#10: the signed part. What is signed of a request.
     # Makes an empty record.
     "ASN1_CreatePKCS10": _of(c_int32, out=P(P(PKCS10))),
     # Releases a record and its nodes.
@@ -673,7 +675,7 @@ FUNCTIONS = {
     "ASN1_PKCS10WriteData": _of(c_int32, record=P(PKCS10), out=P(P(Anybuf))),
     # Decodes the DER of one signed part of exactly `length` bytes into a new record.
     "ASN1_PKCS10Decode": _of(c_int32, bytes=c_char_p, length=c_uint32, out=P(P(PKCS10))),
-    # ==== PKCS#6: the signed part
+    # ==== PKCS#6: the signed part. What is signed of an extended certificate.
     # Makes an empty record.
     "ASN1_PKCS6_CreateExtendedCertificateInfo": _of(c_int32, out=P(P(ExtendedCertificateInfo))),
     # Releases a record and its nodes.
@@ -693,7 +695,7 @@ FUNCTIONS = {
     # Decodes the DER of one signed part of exactly `length` bytes into a new record.
     "ASN1_PKCS6_CertificateInfoDecode": _of(c_int32, bytes=c_char_p, length=c_uint32,
         out=P(P(ExtendedCertificateInfo))),
-    # ==== PKCS#7: the ContentInfo around a message
+    # ==== PKCS#7: the ContentInfo around a message. A content behind the identifier of its type.
     # Makes an empty record.
     "ASN1_PKCS7_CreateContext": _of(c_int32, out=P(P(PKCS7Context))),
     # Releases a record and its nodes.
