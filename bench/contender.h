@@ -6,6 +6,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <map>
 #include <string>
 
 namespace bench {
@@ -25,6 +26,26 @@ void Add(const std::string& name, const char* contender, double items, Run run) 
                                [items, run](benchmark::State& state) {
                                  for (auto _ : state) run();
                                  state.counters["items"] = items;
+                               });
+}
+
+// The input of so many items that `kMake` makes, made once.
+template <auto kMake>
+const auto& Input(size_t items) {
+  static std::map<size_t, decltype(kMake(items))> inputs;
+  auto input = inputs.find(items);
+  if (input == inputs.end()) input = inputs.emplace(items, kMake(items)).first;
+  return input->second;
+}
+
+// Like Add, with an input that is made when the case is run, outside of what is timed.
+template <auto kMake, typename Run>
+void AddWithInput(const std::string& name, const char* contender, size_t items, Run run) {
+  benchmark::RegisterBenchmark((name + "/" + contender).c_str(),
+                               [items, run](benchmark::State& state) {
+                                 const auto& input = Input<kMake>(items);
+                                 for (auto _ : state) run(input);
+                                 state.counters["items"] = static_cast<double>(items);
                                });
 }
 

@@ -2,7 +2,6 @@
 #include <algorithm>
 #include <ctime>
 #include <iterator>
-#include <map>
 #include <memory>
 
 #if defined(VELKORD_BENCH_OPENSSL)
@@ -30,26 +29,6 @@ using Der = std::vector<uint8_t>;
 
 // Entries of the list that is decoded.
 constexpr size_t kEntries = 10'000;
-
-// The input of so many entries that `kMake` makes, made once.
-template <auto kMake>
-const auto& Input(size_t entries) {
-  static std::map<size_t, decltype(kMake(entries))> inputs;
-  auto input = inputs.find(entries);
-  if (input == inputs.end()) input = inputs.emplace(entries, kMake(entries)).first;
-  return input->second;
-}
-
-// Like Add, with an input that is made when the case is run, outside of what is timed.
-template <auto kMake, typename Run>
-void AddWithInput(const std::string& name, const char* contender, size_t entries, Run run) {
-  benchmark::RegisterBenchmark((name + "/" + contender).c_str(),
-                               [entries, run](benchmark::State& state) {
-                                 const auto& input = Input<kMake>(entries);
-                                 for (auto _ : state) run(input);
-                                 state.counters["items"] = static_cast<double>(entries);
-                               });
-}
 
 struct Decoded {
   CertificateList* list = nullptr;

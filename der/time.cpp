@@ -22,9 +22,8 @@ uint8_t* PutTwoDigits(uint8_t* place, int value) {
 
 int TwoDigits(Bytes text, size_t at) { return (text[at] - '0') * 10 + (text[at + 1] - '0'); }
 
-// The fields in the text of a time, whatever their values. Those that it does not have stay as they
-// are.
-int32_t ReadFields(Bytes in, std::tm& fields) {
+// The time that a text tells, and its fields in range.
+int32_t ReadText(Bytes in, std::tm& fields, int32_t& time) {
   uint32_t tag;
   uint32_t length;
   VELKORD_TRY(DerParseTag(in, tag));
@@ -37,6 +36,7 @@ int32_t ReadFields(Bytes in, std::tm& fields) {
   const Bytes fieldDigits = in.first(digits);
   if (!std::all_of(fieldDigits.begin(), fieldDigits.end(), isDigit)) return VELKORD_BAD_TIME;
 
+  fields = {};
   if (yearDigits == 4) {
     fields.tm_year = TwoDigits(in, 0) * 100 + TwoDigits(in, 2) - kYearBase;
   } else {
@@ -48,12 +48,6 @@ int32_t ReadFields(Bytes in, std::tm& fields) {
   fields.tm_hour = TwoDigits(in, yearDigits + 4);
   fields.tm_min = TwoDigits(in, yearDigits + 6);
   fields.tm_sec = TwoDigits(in, yearDigits + 8);
-  return VELKORD_OK;
-}
-
-// The fields in range, and the time.
-int32_t ReadTimeFields(Bytes in, std::tm& fields, int32_t& time) {
-  VELKORD_TRY(ReadFields(in, fields));
   return FromLocalTime(fields, time) ? VELKORD_OK : VELKORD_OUT_OF_MEMORY;
 }
 
@@ -105,7 +99,7 @@ int32_t TimeWriteNode(int32_t time, uint8_t tag, Anybuf** out) {
 
 int32_t TimeRead(Bytes in, int32_t& time) {
   std::tm fields{};
-  return ReadTimeFields(in, fields, time);
+  return ReadText(in, fields, time);
 }
 
 int32_t TimeReadForm(Bytes in, uint8_t form, uint32_t dataType, int32_t& time) {
@@ -123,7 +117,7 @@ int32_t TimeRewrite(Bytes in, uint32_t dataType, Anybuf** out) {
   VELKORD_TRY(CheckForm(form, dataType));
   std::tm fields{};
   int32_t time;
-  VELKORD_TRY(ReadTimeFields(in, fields, time));
+  VELKORD_TRY(ReadText(in, fields, time));
   TimeElement element;
   element.Set(fields, form);
   return MakeNode(element, form, out);

@@ -1,66 +1,14 @@
 // Runs every case with the library's requests for memory failing in turn. The program is linked
 // with the library's objects, whose calls of the C allocator come here.
 #include <algorithm>
-#include <cstdlib>
 #include <iostream>
 #include <map>
 #include <set>
 
 #include "calls.h"
-
-// NOLINTBEGIN(bugprone-reserved-identifier): the linker's names for a wrapped function.
-extern "C" {
-void* __real_malloc(size_t size);
-void* __real_calloc(size_t count, size_t size);
-void __real_free(void* block);
-}
+#include "watched_allocator.h"
 
 namespace {
-
-// While `watching`, the request of number `failing` fails and the blocks of the others are noted.
-bool watching = false;
-size_t failing = 0;
-size_t requests = 0;
-std::set<void*> blocks;
-
-bool Refused() { return watching && ++requests == failing; }
-
-void* Noted(void* block) {
-  if (watching) blocks.insert(block);
-  return block;
-}
-
-}  // namespace
-
-extern "C" {
-
-void* __wrap_malloc(size_t size) { return Refused() ? nullptr : Noted(__real_malloc(size)); }
-
-void* __wrap_calloc(size_t count, size_t size) {
-  return Refused() ? nullptr : Noted(__real_calloc(count, size));
-}
-
-void __wrap_free(void* block) {
-  if (watching) blocks.erase(block);
-  __real_free(block);
-}
-
-}  // extern "C"
-// NOLINTEND(bugprone-reserved-identifier)
-
-namespace {
-
-// Makes a call with the n-th request failing, none for 0. `requests` and `blocks` then tell how
-// many it made and what it left in use.
-int32_t CallFailing(size_t n, const LibraryCall& call) {
-  requests = 0;
-  blocks.clear();
-  failing = n;
-  watching = true;
-  const int32_t code = call();
-  watching = false;
-  return code;
-}
 
 // The code for each request in turn that fails, the last one for all behind it.
 using Codes = std::vector<int32_t>;
@@ -99,13 +47,13 @@ int32_t FailEachRequest(AnyFunction function, const LibraryCall& call, const Che
   const auto found = kCodes.find(function);
   const Codes codes = found == kCodes.end() ? Codes{-1} : found->second;
   for (size_t n = 1;; ++n) {
-    const int32_t code = CallFailing(n, call);
-    if (requests < n) {
-      EXPECT_EQ(blocks.size(), code < 0 ? 0 : requests);
+    const int32_t code = Watched(n, call);
+    if (watch.requests < n) {
+      EXPECT_EQ(watch.blocks.size(), code < 0 ? 0 : watch.requests);
       return code;
     }
     EXPECT_EQ(code, codes[std::min(n, codes.size()) - 1]) << n;
-    EXPECT_EQ(blocks.size(), 0U) << n;
+    EXPECT_EQ(watch.blocks.size(), 0U) << n;
     isAsBefore();
     ++failures;
     failed.insert(function);
@@ -127,7 +75,7 @@ const testing::Environment* const kAllocation = testing::AddGlobalTestEnvironmen
 TEST(Inspection, KeepsWhatItCouldMake) {
   X509Cert untouched{};
   X509Cert* out = &untouched;
-  EXPECT_EQ(CallFailing(1, [&] { return X509CertCreate(&out) == nullptr ? 0 : 1; }), 0);
+  EXPECT_EQ(Watched(1, [&] { return X509CertCreate(&out) == nullptr ? 0 : 1; }), 0);
   EXPECT_EQ(out, &untouched);
 
   // The entries, identifiers and values that are there after each request in turn has failed.
@@ -138,8 +86,8 @@ TEST(Inspection, KeepsWhatItCouldMake) {
     const auto record = Inspect(
         Sequence("31 08 30 06 06 01 2A 0C 01 41 | 31 09 30 07 06 01 2B 1E 02 00 42"), nullptr);
     const auto call = [&] { return X509CertGetSubject(record.get()); };
-    EXPECT_EQ(CallFailing(++n, call), entries == 2 ? 0 : -1) << n;
-    EXPECT_EQ(blocks.size(), entries + identifiers + values) << n;
+    EXPECT_EQ(Watched(++n, call), entries == 2 ? 0 : -1) << n;
+    EXPECT_EQ(watch.blocks.size(), entries + identifiers + values) << n;
     size_t made[3] = {};
     for (const CertEntry* entry = record->subjectEntries; entry != nullptr; entry = entry->next) {
       ++made[0];

@@ -2,65 +2,15 @@
 // is linked with the library's objects, whose calls of the C allocator come here.
 #include <cstdlib>
 #include <new>
-#include <set>
 #include <stdexcept>
 #include <system_error>
 
 #include "hex.h"
 #include "velkord.hpp"
+#include "watched_allocator.h"
 
 using velkord::Chain, velkord::ChainBuilder, velkord::Errc, velkord::Handle, velkord::Length,
     velkord::Make, velkord::Out, velkord::ToErrorCode, velkord::View;
-
-// NOLINTBEGIN(bugprone-reserved-identifier): the linker's names for a wrapped function.
-extern "C" {
-void* __real_malloc(size_t size);
-void* __real_calloc(size_t count, size_t size);
-void __real_free(void* block);
-}
-
-namespace {
-
-// While `watching`: the requests, the blocks of theirs that are in use, and how often a block was
-// released that is none of them.
-bool watching = false;
-size_t requests = 0;
-size_t strays = 0;
-std::set<void*> blocks;
-
-void* Noted(void* block) {
-  if (!watching) return block;
-  // The set requests memory itself.
-  watching = false;
-  ++requests;
-  blocks.insert(block);
-  watching = true;
-  return block;
-}
-
-}  // namespace
-
-extern "C" {
-
-void* __wrap_malloc(size_t size) { return Noted(__real_malloc(size)); }
-
-void* __wrap_calloc(size_t count, size_t size) { return Noted(__real_calloc(count, size)); }
-
-void __wrap_free(void* block) {
-  if (watching && block != nullptr) {
-    watching = false;
-    const bool isKnown = blocks.erase(block) == 1;
-    watching = true;
-    if (!isKnown) {
-      ++strays;
-      return;
-    }
-  }
-  __real_free(block);
-}
-
-}  // extern "C"
-// NOLINTEND(bugprone-reserved-identifier)
 
 void* operator new(size_t size) {
   void* const block = std::malloc(size);
@@ -78,26 +28,22 @@ Node Nodes(const std::string& text) { return Node(ToNode(text).release()); }
 
 Node Number(uint32_t value) { return Make("write a number", ASN1_WriteInteger, value); }
 
-// Runs `work` and gives the number of its requests. All that it requested is in use no more, and
-// nothing was released twice.
+// Runs `work` and gives the number of its requests, all of which it has released.
 template <typename Work>
-size_t Watched(Work work) {
-  requests = 0;
-  strays = 0;
-  blocks.clear();
-  watching = true;
-  work();
-  watching = false;
-  EXPECT_EQ(blocks.size(), 0U);
-  EXPECT_EQ(strays, 0U);
-  return requests;
+size_t Requests(Work work) {
+  Watched(0, [&] {
+    work();
+    return 0;
+  });
+  EXPECT_EQ(watch.blocks.size(), 0U);
+  return watch.requests;
 }
 
 // A record that owns a node is moved and released.
 template <typename Object>
 void MoveAndFree(int32_t (*create)(Object**), Anybuf* Object::*field) {
   bool moved = false;
-  size_t made = Watched([&] {
+  size_t made = Requests([&] {
     Handle<Object> record = Make("create a record", create);
     velkord::Check(ASN1_WriteNull(&((*record).*field)), "fill a field");
     const Handle<Object> other = std::move(record);
@@ -118,14 +64,14 @@ TEST(Handles, FreeEachTypeOnce) {
   MoveAndFree(ASN1_PKCS6_CreateExtendedCertificateInfo, &ExtendedCertificateInfo::certificate);
   MoveAndFree(ASN1_PKCS6_CreateExtendedCertificate, &ExtendedCertificate::signature);
   MoveAndFree(ASN1_PKCS7_CreateContext, &PKCS7Context::content);
-  size_t made = Watched([] {
+  size_t made = Requests([] {
     const Handle<X509Cert> view(X509CertCreate(nullptr));
     view->tbs = Make("create a record", ASN1_CreateTBSCertificate).release();
     velkord::Check(ASN1_WriteNull(&view->tbs->subject), "fill a field");
   });
   EXPECT_GE(made, 3U);
   const Node id = Nodes("06 01 2A");
-  made = Watched([&] {
+  made = Requests([&] {
     const auto record = Make("read an identifier", ASN1_ReadObjectId, id.get());
     const auto attribute =
         Make("make an attribute", ASN1_SetAttributeTypeAndValue, id.get(), id.get());
@@ -147,12 +93,12 @@ TEST(Out, LeavesTheHandleAloneWhenTheCallFails) {
 TEST(Out, ReleasesTheObjectBefore) {
   const Node sequence = Nodes("30 06 02 01 05 02 01 06");
   std::string children;
-  Watched([&] {
+  Requests([&] {
     Node node = Make("copy", ASN1_WriteExplicitFromDERData, sequence->data, sequence->dataLen);
     velkord::Check(ASN1_ReadSequence(node.get(), Out(node)), "split");
-    watching = false;
+    watch.on = false;
     children = Describe(node.get());
-    watching = true;
+    watch.on = true;
   });
   EXPECT_EQ(children, "2: 02 01 05 | 2: 02 01 06");
 }
@@ -160,7 +106,7 @@ TEST(Out, ReleasesTheObjectBefore) {
 TEST(Out, StoresNullWhenTheCallMakesNothing) {
   const Node empty = Nodes("30 00");
   bool isNull = false;
-  size_t made = Watched([&] {
+  size_t made = Requests([&] {
     Node node = Number(5);
     velkord::Check(ASN1_ReadSequence(empty.get(), Out(node)), "split");
     isNull = node == nullptr;
@@ -236,7 +182,7 @@ TEST(ChainBuilders, LinkNodesAndChainsInTheirOrder) {
 }
 
 TEST(ChainBuilders, ReleaseWhatTheyHold) {
-  size_t made = Watched([] {
+  size_t made = Requests([] {
     ChainBuilder builder(Number(1), Number(2));
     builder.Append(Number(3));
     const Node taken = builder.Take();
@@ -247,13 +193,13 @@ TEST(ChainBuilders, ReleaseWhatTheyHold) {
 
 TEST(Interface, RequestsNoMemoryOfItsOwn) {
   Anybuf* nodes[4] = {};
-  const size_t plain = Watched([&] {
+  const size_t plain = Requests([&] {
     for (Anybuf*& node : nodes) ASN1_WriteInteger(5, &node);
     ASN1_ReadSequence(nodes[0], &nodes[1]);
     for (Anybuf* node : nodes) ASN1_FreeAnybuf(node);
   });
   uint32_t sum = 0;
-  const size_t made = Watched([&] {
+  const size_t made = Requests([&] {
     ChainBuilder builder(Number(5), Number(5));
     builder.Append(Number(5));
     Node node = Number(5);

@@ -1,0 +1,27 @@
+// The C allocator as the objects of a program see it that is linked with --wrap for its functions.
+#ifndef VELKORD_TESTS_WATCHED_ALLOCATOR_H_
+#define VELKORD_TESTS_WATCHED_ALLOCATOR_H_
+
+#include <cstddef>
+#include <set>
+
+// While it is `on`, the request of number `failing` fails, none when that is 0, and the blocks of
+// the others are noted until they are released.
+struct AllocatorWatch {
+  bool on = false;
+  size_t failing = 0;
+  size_t requests = 0;
+  std::set<void*> blocks;
+};
+extern AllocatorWatch watch;
+
+// Runs `work` watched, with nothing noted before.
+template <typename Work>
+auto Watched(size_t failing, Work work) {
+  watch = {.on = true, .failing = failing, .requests = 0, .blocks = {}};
+  const auto result = work();
+  watch.on = false;
+  return result;
+}
+
+#endif  // VELKORD_TESTS_WATCHED_ALLOCATOR_H_
