@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <memory>
 #include <string>
 #include <vector>
@@ -46,6 +47,18 @@ inline std::string Hex(const NodePtr& node) { return ToHex(node->data, node->dat
 
 // A chain as text, its nodes as above with " | " between them.
 std::string Describe(const Anybuf* chain);
+
+// Leaves blocks behind that hold no zero, for the next requests of their size.
+inline void DirtyHeap(size_t size) {
+  const std::vector<ByteVector> blocks(8, ByteVector(size, 0xA5));
+}
+
+// Expects that a new record is zero in all its bytes, those between the fields too.
+template <typename Record>
+void ExpectZeros(const Record& record) {
+  const ByteVector zeros(sizeof record);
+  EXPECT_EQ(std::memcmp(&record, zeros.data(), zeros.size()), 0);
+}
 
 // What a function that makes a node gives, its out pointer being the last argument: the node as
 // text, or its code. A failing call must leave the out pointer alone.

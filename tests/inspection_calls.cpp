@@ -2,7 +2,9 @@
 #include "calls.h"
 
 InspectionPtr Inspect(NodePtr subject, NodePtr extensions) {
+  DirtyHeap(sizeof(X509Cert));
   InspectionPtr record(X509CertCreate(nullptr));
+  ExpectZeros(*record);
   EXPECT_EQ(ASN1_CreateTBSCertificate(&record->tbs), 0);
   record->tbs->subject = subject.release();
   record->tbs->extensions = extensions.release();

@@ -115,10 +115,12 @@ Callers::mapped_type Builder(const RecordKind<Record>& kind) {
   return [kind](const Arguments& in) {
     EXPECT_EQ(kind.create(nullptr), VELKORD_NULL_ARGUMENT);
     Record* record = nullptr;
+    DirtyHeap(sizeof *record);
     EXPECT_EQ(
         CallLibrary(
             kind.create, [&] { return kind.create(&record); }, [&] { EXPECT_EQ(record, nullptr); }),
         0);
+    ExpectZeros(*record);
     std::string text;
     for (const std::string& step : in) {
       const size_t equals = step.find('=');
