@@ -45,6 +45,12 @@ void AddLimit(const char* name, size_t size) {
   Add(name, "limit", 1, [size] { MakeAndFree(size); });
 }
 
+void LookUpTime() {
+  const std::time_t time = kTime;
+  std::tm fields;
+  benchmark::DoNotOptimize(localtime_r(&time, &fields));
+}
+
 void AddWriters() {
   Add("integer_write", "velkord", 1, [] {
     Anybuf* node = nullptr;
@@ -75,10 +81,7 @@ void AddWriters() {
     FreeNode(node);
   });
   Add("time_write", "limit", 1, [] {
-    const std::time_t time = kTime;
-    std::tm fields;
-    tzset();
-    benchmark::DoNotOptimize(localtime_r(&time, &fields));
+    LookUpTime();
     MakeAndFree(15);
   });
 }
@@ -104,14 +107,7 @@ void AddReaders() {
     ASN1_ReadUtcTime(time.get(), &value);
     Require(value == kTime, "the time is read");
   });
-  std::tm fields;
-  const std::time_t seconds = kTime;
-  localtime_r(&seconds, &fields);
-  Add("time_read", "limit", 1, [fields] {
-    std::tm given = fields;
-    given.tm_isdst = -1;
-    benchmark::DoNotOptimize(mktime(&given));
-  });
+  Add("time_read", "limit", 1, LookUpTime);
 }
 
 }  // namespace

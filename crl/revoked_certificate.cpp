@@ -9,9 +9,9 @@ namespace {
 int32_t Fill(RevokedCertificate& record, DerElements& elements) {
   DerElement element;
   VELKORD_TRY(elements.Next(element));
-  VELKORD_TRY(DerCopyElement(element.whole, &record.certificateSerialNumber));
+  VELKORD_TRY(DerCopyElement(element, &record.certificateSerialNumber));
   VELKORD_TRY(elements.Next(element));
-  VELKORD_TRY(TimeRewrite(element.whole, element.tag, &record.revocationDate));
+  VELKORD_TRY(TimeRewrite(element, &record.revocationDate));
   if (elements.AtEnd()) return VELKORD_OK;
   VELKORD_TRY(NextSequence(elements, record.crlEntryExtensions));
   record.hasCrlEntryExtensions = 1;
@@ -35,9 +35,7 @@ int32_t ASN1_CRL_SetRevokedCertificateCertificateSerialNumber(RevokedCertificate
 int32_t ASN1_CRL_SetRevokedCertificateRevocationDate(RevokedCertificate* record,
                                                      const Anybuf* value) {
   return SetField(record, &RevokedCertificate::revocationDate, value,
-                  [](const Anybuf& node, Anybuf** out) {
-                    return TimeRewrite(NodeBytes(node), node.dataType, out);
-                  });
+                  [](const Anybuf& node, Anybuf** out) { return TimeRewrite(node, out); });
 }
 
 int32_t ASN1_CRL_SetRevokedCertificateCrlEntryExtensions(RevokedCertificate* record,

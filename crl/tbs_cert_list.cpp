@@ -19,7 +19,7 @@ int32_t FillOptionals(TbsCertList& record, DerElements& elements) {
   DerElement element;
   if (elements.StartsWith(kUtcTime) || elements.StartsWith(kGeneralizedTime)) {
     VELKORD_TRY(elements.Next(element));
-    VELKORD_TRY(TimeRead(element.whole, record.nextUpdate));
+    VELKORD_TRY(TimeRead(element, record.nextUpdate));
     record.hasNextUpdate = 1;
   }
   if (elements.StartsWith(kSequence)) {
@@ -43,7 +43,7 @@ int32_t Fill(TbsCertList& record, DerElements& elements) {
   VELKORD_TRY(NextSequence(elements, record.issuer));
   VELKORD_TRY(elements.Next(element));
   uint8_t form;
-  VELKORD_TRY(TimeReadByFirstOctet(element.whole, element.tag, form, record.thisUpdate));
+  VELKORD_TRY(TimeReadByFirstOctet(element, form, record.thisUpdate));
   record.timeForm = form == kUtcTime ? kUtcTimeForm : 0;
   return FillOptionals(record, elements);
 }

@@ -116,6 +116,9 @@ int32_t DerCopyBitString(Bytes in, Anybuf** out);
 // A TLV node with a copy of DER bytes, of which the tag alone is looked at. 0, -1, or -2 without a
 // tag.
 int32_t DerCopyElement(Bytes in, Anybuf** out);
+inline int32_t DerCopyElement(const DerElement& element, Anybuf** out) {
+  return DerCopyBytes(element.whole, element.tag, 0, out);
+}
 
 // A copy of a node alone, all its fields but `next` and `prev` carried over; null when it cannot be
 // made.

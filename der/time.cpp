@@ -1,8 +1,7 @@
 // UTCTime and GeneralizedTime.
 #include "der/time.h"
 
-#include <algorithm>
-
+#include "der/civil_time.h"
 #include "platform/local_time.h"
 
 namespace velkord {
@@ -14,40 +13,50 @@ constexpr int kYearBase = 1900;
 constexpr int kFirstUtcTimeYear = 70;
 constexpr size_t kMonthToSecondDigits = 10;
 
+// Numbers of two digits each, read from a text that is long enough.
+class TwoDigits {
+ public:
+  explicit TwoDigits(Bytes text) : at_(text.data()) {}
+
+  int Next() {
+    const uint32_t tens = *at_++ - uint32_t{'0'};
+    const uint32_t ones = *at_++ - uint32_t{'0'};
+    areDigits_ &= tens < 10 && ones < 10;
+    return static_cast<int>(tens * 10 + ones);
+  }
+
+  // Whether all that was read were digits.
+  bool AreDigits() const { return areDigits_; }
+
+ private:
+  const uint8_t* at_;
+  bool areDigits_ = true;
+};
+
 uint8_t* PutTwoDigits(uint8_t* place, int value) {
   *place++ = static_cast<uint8_t>('0' + value / 10);
   *place++ = static_cast<uint8_t>('0' + value % 10);
   return place;
 }
 
-int TwoDigits(Bytes text, size_t at) { return (text[at] - '0') * 10 + (text[at + 1] - '0'); }
-
 // The time that a text tells, and its fields in range.
-int32_t ReadText(Bytes in, std::tm& fields, int32_t& time) {
-  uint32_t tag;
-  uint32_t length;
-  VELKORD_TRY(DerParseTag(in, tag));
-  VELKORD_TRY(DerParseLength(in, length));
+int32_t ReadText(const DerElement& element, std::tm& fields, int32_t& time) {
+  const Bytes text = element.Content();
+  const bool hasCentury = element.tag == ReduceTag(kGeneralizedTime);
+  const size_t digits = (hasCentury ? 4 : 2) + kMonthToSecondDigits;
+  if (text.size() <= digits || text[digits] != 'Z') return VELKORD_BAD_TIME;
 
-  const size_t yearDigits = tag == ReduceTag(kGeneralizedTime) ? 4 : 2;
-  const size_t digits = yearDigits + kMonthToSecondDigits;
-  if (in.size() <= digits || in[digits] != 'Z') return VELKORD_BAD_TIME;
-  const auto isDigit = [](uint8_t octet) { return octet >= '0' && octet <= '9'; };
-  const Bytes fieldDigits = in.first(digits);
-  if (!std::all_of(fieldDigits.begin(), fieldDigits.end(), isDigit)) return VELKORD_BAD_TIME;
-
+  TwoDigits numbers(text);
+  const int century = hasCentury ? numbers.Next() * 100 - kYearBase : 0;
+  const int year = numbers.Next();
   fields = {};
-  if (yearDigits == 4) {
-    fields.tm_year = TwoDigits(in, 0) * 100 + TwoDigits(in, 2) - kYearBase;
-  } else {
-    const int year = TwoDigits(in, 0);
-    fields.tm_year = year < kFirstUtcTimeYear ? year + 100 : year;
-  }
-  fields.tm_mon = TwoDigits(in, yearDigits) - 1;
-  fields.tm_mday = TwoDigits(in, yearDigits + 2);
-  fields.tm_hour = TwoDigits(in, yearDigits + 4);
-  fields.tm_min = TwoDigits(in, yearDigits + 6);
-  fields.tm_sec = TwoDigits(in, yearDigits + 8);
+  fields.tm_year = century + year + (!hasCentury && year < kFirstUtcTimeYear ? 100 : 0);
+  fields.tm_mon = numbers.Next() - 1;
+  fields.tm_mday = numbers.Next();
+  fields.tm_hour = numbers.Next();
+  fields.tm_min = numbers.Next();
+  fields.tm_sec = numbers.Next();
+  if (!numbers.AreDigits()) return VELKORD_BAD_TIME;
   return FromLocalTime(fields, time) ? VELKORD_OK : VELKORD_OUT_OF_MEMORY;
 }
 
@@ -60,17 +69,41 @@ uint8_t FormByFirstOctet(Bytes in) {
   return !in.empty() && in[0] == kUtcTime ? kUtcTime : kGeneralizedTime;
 }
 
+// Opens the element of a node whose `dataType` must be that of `form`. The length in its header is
+// not used: the element reaches to the end of the node. 0, -7, then -1 or -2 from the header.
+int32_t OpenNode(const Anybuf& source, uint8_t form, DerElement& element) {
+  VELKORD_TRY(CheckForm(form, source.dataType));
+  const Bytes in = NodeBytes(source);
+  Bytes text = in;
+  uint32_t tag;
+  uint32_t length;
+  VELKORD_TRY(DerParseTag(text, tag));
+  VELKORD_TRY(DerParseLength(text, length));
+  element = {tag, in.size() - text.size(), in};
+  return VELKORD_OK;
+}
+
 int32_t MakeNode(const TimeElement& element, uint8_t tag, Anybuf** out) {
   const int32_t code = DerCopyBytes(element.Whole(), ReduceTag(tag), 0, out);
   return code == VELKORD_OK ? VELKORD_OK : VELKORD_OUT_OF_MEMORY;
+}
+
+int32_t Rewrite(const DerElement& element, uint8_t form, Anybuf** out) {
+  std::tm fields;
+  int32_t time;
+  VELKORD_TRY(ReadText(element, fields, time));
+  TimeElement written;
+  written.Set(fields, form);
+  return MakeNode(written, form, out);
 }
 
 }  // namespace
 
 int32_t TimeElement::Set(int32_t time, uint8_t tag) {
   if (time < 0) return VELKORD_NEGATIVE_TIME;
-  std::tm fields{};
-  if (!ToLocalTime(time, fields)) return VELKORD_OUT_OF_MEMORY;
+  std::tm fields;
+  FollowZone();
+  if (!LocalFields(time, fields)) return VELKORD_OUT_OF_MEMORY;
   Set(fields, tag);
   return VELKORD_OK;
 }
@@ -97,30 +130,28 @@ int32_t TimeWriteNode(int32_t time, uint8_t tag, Anybuf** out) {
   return MakeNode(element, tag, out);
 }
 
-int32_t TimeRead(Bytes in, int32_t& time) {
-  std::tm fields{};
-  return ReadText(in, fields, time);
+int32_t TimeRead(const DerElement& element, int32_t& time) {
+  std::tm fields;
+  return ReadText(element, fields, time);
 }
 
-int32_t TimeReadForm(Bytes in, uint8_t form, uint32_t dataType, int32_t& time) {
-  VELKORD_TRY(CheckForm(form, dataType));
-  return TimeRead(in, time);
+int32_t TimeReadByFirstOctet(const DerElement& element, uint8_t& form, int32_t& time) {
+  form = FormByFirstOctet(element.whole);
+  VELKORD_TRY(CheckForm(form, element.tag));
+  return TimeRead(element, time);
 }
 
-int32_t TimeReadByFirstOctet(Bytes in, uint32_t dataType, uint8_t& form, int32_t& time) {
-  form = FormByFirstOctet(in);
-  return TimeReadForm(in, form, dataType, time);
+int32_t TimeRewrite(const DerElement& element, Anybuf** out) {
+  const uint8_t form = FormByFirstOctet(element.whole);
+  VELKORD_TRY(CheckForm(form, element.tag));
+  return Rewrite(element, form, out);
 }
 
-int32_t TimeRewrite(Bytes in, uint32_t dataType, Anybuf** out) {
-  const uint8_t form = FormByFirstOctet(in);
-  VELKORD_TRY(CheckForm(form, dataType));
-  std::tm fields{};
-  int32_t time;
-  VELKORD_TRY(ReadText(in, fields, time));
-  TimeElement element;
-  element.Set(fields, form);
-  return MakeNode(element, form, out);
+int32_t TimeRewrite(const Anybuf& source, Anybuf** out) {
+  const uint8_t form = FormByFirstOctet(NodeBytes(source));
+  DerElement element;
+  VELKORD_TRY(OpenNode(source, form, element));
+  return Rewrite(element, form, out);
 }
 
 }  // namespace velkord
@@ -136,7 +167,9 @@ int32_t WriteTime(const int32_t* time, uint8_t tag, Anybuf** out) {
 
 int32_t ReadTime(const Anybuf* source, uint8_t form, int32_t* time) {
   if (source == nullptr || time == nullptr) return VELKORD_NULL_ARGUMENT;
-  return TimeReadForm(NodeBytes(*source), form, source->dataType, *time);
+  DerElement element;
+  VELKORD_TRY(OpenNode(*source, form, element));
+  return TimeRead(element, *time);
 }
 
 }  // namespace

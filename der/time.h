@@ -28,19 +28,18 @@ class TimeElement {
 // 0, -4 for a negative time, or -7000.
 int32_t TimeWriteNode(int32_t time, uint8_t tag, Anybuf** out);
 
-// Reads a time TLV in the form that its tag gives, UTCTime for any but GeneralizedTime. All bytes
-// behind the header are its text, whatever length the header states.
-// 0, -1 or -2 from the header, -5, or -7000.
-int32_t TimeRead(Bytes in, int32_t& time);
+// Reads a time in the form that its tag gives, UTCTime for any but GeneralizedTime. All bytes
+// behind the header are its text. 0, -5, or -7000.
+int32_t TimeRead(const DerElement& element, int32_t& time);
 
-// The same of an element whose `dataType` must be that of `form` in its low byte; -7 otherwise.
-int32_t TimeReadForm(Bytes in, uint8_t form, uint32_t dataType, int32_t& time);
-
-// The same of the form that the first octet selects: UTCTime by its tag, else GeneralizedTime.
-int32_t TimeReadByFirstOctet(Bytes in, uint32_t dataType, uint8_t& form, int32_t& time);
+// The same of the form that the first octet selects: UTCTime by its tag, else GeneralizedTime. -7
+// for any other tag.
+int32_t TimeReadByFirstOctet(const DerElement& element, uint8_t& form, int32_t& time);
 
 // Makes a time TLV node of such an element: its time in the form that the first octet selects.
-int32_t TimeRewrite(Bytes in, uint32_t dataType, Anybuf** out);
+int32_t TimeRewrite(const DerElement& element, Anybuf** out);
+// The same of a node by its `dataType`; -1 or -2 from the header.
+int32_t TimeRewrite(const Anybuf& source, Anybuf** out);
 
 }  // namespace velkord
 

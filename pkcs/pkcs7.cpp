@@ -12,7 +12,7 @@ constexpr uint32_t kContentTag = 0;
 int32_t Fill(PKCS7Context& record, DerElements& elements) {
   DerElement element;
   VELKORD_TRY(elements.Next(element));
-  VELKORD_TRY(DerCopyElement(element.whole, &record.contentType));
+  VELKORD_TRY(DerCopyElement(element, &record.contentType));
   if (elements.AtEnd()) return VELKORD_OK;
   VELKORD_TRY(elements.Next(element));
   return DerCopyContent(element, &record.content);

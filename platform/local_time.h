@@ -1,4 +1,4 @@
-// The platform's local time conversion, in both directions, by the zone as it stands at the call.
+// The platform's local time: the fields that its zone shows at a time.
 #ifndef VELKORD_PLATFORM_LOCAL_TIME_H_
 #define VELKORD_PLATFORM_LOCAL_TIME_H_
 
@@ -7,12 +7,12 @@
 
 namespace velkord {
 
-// False when the platform refuses the value.
-bool ToLocalTime(int32_t seconds, std::tm& fields);
+// Has the C library take over the zone that TZ names, if it is set: alone it may keep the zone of
+// its first look. Without TZ it is not asked, since it would ask the system every time.
+void FollowZone();
 
-// Fields out of their range carry over, and daylight saving is worked out from the zone; `fields`
-// then are those that `ToLocalTime` gives. False for a time outside 0 to 2147483647.
-bool FromLocalTime(std::tm& fields, int32_t& seconds);
+// False when the platform refuses a time, of which it must take 0 to 2147483647.
+bool LocalFields(int32_t seconds, std::tm& fields);
 
 }  // namespace velkord
 

@@ -21,7 +21,7 @@ int32_t ASN1_GetValidity(const Anybuf* source, int32_t* notBefore, int32_t* notA
     if (element.tag != ReduceTag(kUtcTime) && element.tag != ReduceTag(kGeneralizedTime)) {
       return VELKORD_WRONG_TAG;
     }
-    return TimeRead(element.whole, times[place]);
+    return TimeRead(element, times[place]);
   }));
   *notBefore = times[0];
   *notAfter = times[1];

@@ -1,0 +1,60 @@
+#include "der/civil_time.h"
+
+#include <algorithm>
+
+#include "platform/local_time.h"
+
+namespace velkord {
+
+namespace {
+
+constexpr int64_t kSecondsOfDay = 86400;
+
+// Seconds from the start of 1970 to what fields state, were they UTC. Years are counted from March
+// on, so that the leap day ends one, and from 400 years before the first that a text can state, so
+// that none is negative.
+int64_t CivilSeconds(const std::tm& fields) {
+  constexpr uint32_t kDaysTo1970 = 865565;
+  const auto months = static_cast<uint32_t>((fields.tm_year + 1900 + 400) * 12 + fields.tm_mon - 2);
+  const uint32_t year = months / 12;
+  const uint32_t daysToYear = year * 365 + year / 4 - year / 100 + year / 400;
+  const uint32_t daysToMonth = (months % 12 * 153 + 2) / 5;
+  const int64_t days = int64_t{daysToYear + daysToMonth} - kDaysTo1970 + fields.tm_mday - 1;
+  return days * kSecondsOfDay + fields.tm_hour * 3600 + fields.tm_min * 60 + fields.tm_sec;
+}
+
+// The zone's offset from UTC at the time nearest to `time` that there is, and its fields there.
+bool OffsetAt(int64_t time, int64_t& offset, std::tm& fields) {
+  const int64_t nearest = std::clamp<int64_t>(time, 0, INT32_MAX);
+  if (!LocalFields(static_cast<int32_t>(nearest), fields)) return false;
+  offset = CivilSeconds(fields) - nearest;
+  return true;
+}
+
+}  // namespace
+
+bool FromLocalTime(std::tm& fields, int32_t& seconds) {
+  FollowZone();
+  const int64_t civil = CivilSeconds(fields);
+  // No offset reaches two days, and no zone changes its offset twice in so short a time.
+  int64_t before;
+  int64_t offset;
+  if (!OffsetAt(civil - 2 * kSecondsOfDay, before, fields)) return false;
+  int64_t time = civil - before;
+  if (!OffsetAt(time, offset, fields)) return false;
+  if (offset != before) {
+    // The offset has changed between the two, unless the hour is one that was skipped.
+    std::tm changed;
+    int64_t last;
+    if (!OffsetAt(civil - offset, last, changed)) return false;
+    if (last == offset) {
+      time = civil - offset;
+      fields = changed;
+    }
+  }
+  if (time < 0 || time > INT32_MAX) return false;
+  seconds = static_cast<int32_t>(time);
+  return true;
+}
+
+}  // namespace velkord
