@@ -16,10 +16,8 @@ int32_t OpenExtension(Bytes in, ExtensionView& extension) {
   // Of exactly three elements the second is the BOOLEAN.
   DerElement third;
   if (elements.Next(third) == VELKORD_OK && elements.AtEnd()) {
-    Bytes boolean;
-    VELKORD_TRY(DerOpenContent(value, boolean));
-    if (boolean.empty()) return VELKORD_SIZE_MISMATCH;
-    extension.critical = boolean.first(1);
+    if (value.Content().empty()) return VELKORD_SIZE_MISMATCH;
+    extension.critical = value.Content().first(1);
     value = third;
   }
   return DerOpenContent(value, extension.value);
