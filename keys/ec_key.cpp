@@ -1,5 +1,6 @@
 // Keys of elliptic curves of 256 bits between a record and DER.
 #include <array>
+#include <cstddef>
 
 #include "der/node.h"
 
@@ -8,7 +9,11 @@ using namespace velkord;
 namespace {
 
 constexpr uint32_t kBits = 256;
-constexpr size_t kCoordinateSize = sizeof(EccPubkey::x);
+
+// Both coordinates stand behind each other in the record as in a point, so that one move copies
+// them, whatever lies over what.
+constexpr size_t kCoordinates = offsetof(EccPubkey, x);
+constexpr size_t kCoordinatesSize = sizeof(EccPubkey) - kCoordinates;
 
 constexpr uint8_t Digit(char digit) {
   return static_cast<uint8_t>(digit <= '9' ? digit - '0' : digit - 'A' + 10);
@@ -52,20 +57,21 @@ int32_t OpenChild(Bytes in, uint32_t place, Bytes& content) {
 
 int32_t ASN1_EccPubkey2Der(const EccPubkey* key, uint8_t* der, uint32_t* derLen) {
   if (key == nullptr || der == nullptr || derLen == nullptr) return VELKORD_FAILURE;
-  const uint8_t* end = Put(Put(Put(der, kPublicKeyStart), key->x), key->y);
-  *derLen = static_cast<uint32_t>(end - der);
+  const Bytes coordinates(reinterpret_cast<const uint8_t*>(key) + kCoordinates, kCoordinatesSize);
+  CopyOut(coordinates, der + kPublicKeyStart.size());
+  Put(der, kPublicKeyStart);
+  *derLen = kPublicKeyStart.size() + kCoordinatesSize;
   return VELKORD_OK;
 }
 
 int32_t ASN1_Der2EccPubkey(const uint8_t* der, uint32_t derLen, EccPubkey* key) {
   Bytes point;
   if (der == nullptr || key == nullptr || OpenChild(Bytes(der, derLen), 1, point) != VELKORD_OK ||
-      point.size() < 1 + 2 * kCoordinateSize) {
+      point.size() < 1 + kCoordinatesSize) {
     return VELKORD_FAILURE;
   }
+  CopyOut(point.subspan(1, kCoordinatesSize), reinterpret_cast<uint8_t*>(key) + kCoordinates);
   key->bits = kBits;
-  CopyOut(point.subspan(1, kCoordinateSize), key->x);
-  CopyOut(point.subspan(1 + kCoordinateSize, kCoordinateSize), key->y);
   return VELKORD_OK;
 }
 
@@ -77,7 +83,7 @@ int32_t ASN1_Der2EccPrikey(const uint8_t* der, uint32_t derLen, EccPrikey* key) 
       OpenChild(privateKey, 1, value) != VELKORD_OK || value.size() > sizeof key->d) {
     return VELKORD_FAILURE;
   }
-  key->bits = kBits;
   CopyOut(value, key->d);
+  key->bits = kBits;
   return VELKORD_OK;
 }

@@ -1,5 +1,7 @@
 #include "keys/integer_sequence.h"
 
+#include "keys/in_place.h"
+
 namespace velkord {
 
 int32_t WriteIntegerSequence(std::span<const Bytes> magnitudes, uint8_t* out, uint32_t* outLength) {
@@ -7,12 +9,14 @@ int32_t WriteIntegerSequence(std::span<const Bytes> magnitudes, uint8_t* out, ui
   for (const Bytes magnitude : magnitudes) length += DerHeader::For(kInteger, magnitude).Total();
   const DerHeader sequence(kSequence, length);
   if (sequence.Total() > UINT32_MAX) return VELKORD_FAILURE;
-  if (out != nullptr) {
-    uint8_t* place = sequence.Put(out);
+  const auto write = [&](uint8_t* place) {
+    place = sequence.Put(place);
     for (const Bytes magnitude : magnitudes) {
-      place = DerHeader::For(kInteger, magnitude).Put(place);
-      place = Put(place, magnitude);
+      place = Put(DerHeader::For(kInteger, magnitude).Put(place), magnitude);
     }
+  };
+  if (out != nullptr) {
+    VELKORD_TRY(WriteInPlace(magnitudes, out, static_cast<size_t>(sequence.Total()), write));
   }
   *outLength = static_cast<uint32_t>(sequence.Total());
   return VELKORD_OK;

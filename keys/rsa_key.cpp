@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <array>
 
+#include "keys/in_place.h"
 #include "keys/integer_sequence.h"
 
 using namespace velkord;
@@ -37,12 +38,16 @@ int32_t FillFields(DerElements& elements, std::initializer_list<std::span<uint8_
   return VELKORD_OK;
 }
 
-// Clears a record and opens the DER that it is to be filled from.
+// Clears a record and opens the DER that it is to be filled from, which is kept in `scratch` if the
+// record lies over it.
 template <typename Key>
-int32_t ClearAndOpen(Key* key, const uint8_t* der, int32_t derLen, DerElements& elements) {
+int32_t ClearAndOpen(Key* key, const uint8_t* der, int32_t derLen, Scratch& scratch,
+                     DerElements& elements) {
   if (key == nullptr || der == nullptr || derLen <= 0) return VELKORD_FAILURE;
+  Bytes in(der, static_cast<size_t>(derLen));
+  VELKORD_TRY(KeepInput(in, {Bytes(key->modulus, sizeof *key)}, scratch));
   *key = Key{};
-  return elements.Open(Bytes(der, static_cast<size_t>(derLen)), kSequenceType);
+  return elements.Open(in, kSequenceType);
 }
 
 // Gives the modulus of a private key; `elements` moves to what stands behind it, inside the OCTET
@@ -66,8 +71,9 @@ int32_t ZantEncodePublicKey(const ZantPublicKey* key, uint8_t* der, uint32_t* de
 }
 
 int32_t ZantDecodePublicKey(ZantPublicKey* key, const uint8_t* der, int32_t derLen) {
+  Scratch scratch;
   DerElements elements;
-  VELKORD_TRY(ClearAndOpen(key, der, derLen, elements));
+  VELKORD_TRY(ClearAndOpen(key, der, derLen, scratch, elements));
   return FillFields(elements, {key->modulus, key->publicExponent});
 }
 
@@ -86,9 +92,10 @@ int32_t ZantEncodePrivateKey(const ZantPrivateKey* key, uint8_t* der, uint32_t* 
 }
 
 int32_t ZantDecodePrivateKey(ZantPrivateKey* key, const uint8_t* der, int32_t derLen) {
+  Scratch scratch;
   DerElements elements;
   Bytes modulus;
-  VELKORD_TRY(ClearAndOpen(key, der, derLen, elements));
+  VELKORD_TRY(ClearAndOpen(key, der, derLen, scratch, elements));
   VELKORD_TRY(OpenModulus(elements, modulus));
   VELKORD_TRY(FillField(modulus, key->modulus));
   return FillFields(elements, {key->publicExponent, key->privateExponent, key->prime1, key->prime2,

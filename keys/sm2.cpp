@@ -1,5 +1,6 @@
 // SM2 signatures, private values and public points. These functions report nothing: what cannot be
 // done leaves every out argument alone.
+#include "keys/in_place.h"
 #include "keys/integer_sequence.h"
 
 using namespace velkord;
@@ -13,9 +14,25 @@ constexpr size_t kMaximumPoint = 256;
 void WriteElement(const DerHeader& header, std::initializer_list<Bytes> parts, uint8_t* der,
                   uint32_t* derLen) {
   if (header.Total() > UINT32_MAX) return;
-  uint8_t* place = header.Put(der);
-  for (const Bytes part : parts) place = Put(place, part);
-  *derLen = static_cast<uint32_t>(header.Total());
+  const auto size = static_cast<uint32_t>(header.Total());
+  const auto write = [&](uint8_t* place) {
+    place = header.Put(place);
+    for (const Bytes part : parts) place = Put(place, part);
+  };
+  if (WriteInPlace({parts.begin(), parts.size()}, der, size, write) == VELKORD_OK) *derLen = size;
+}
+
+// Gives two parts of an input, of which the second must not be lost to the first.
+void CopyOutBoth(Bytes first, uint8_t* out, uint32_t* outLen, Bytes second, uint8_t* secondOut,
+                 uint32_t* secondOutLen) {
+  const auto* length = reinterpret_cast<const uint8_t*>(outLen);
+  Scratch scratch;
+  if (KeepInput(second, {Bytes(out, first.size()), Bytes(length, sizeof *outLen)}, scratch) !=
+      VELKORD_OK) {
+    return;
+  }
+  *outLen = CopyOut(first, out);
+  *secondOutLen = CopyOut(second, secondOut);
 }
 
 int32_t OpenSignature(const uint8_t* der, uint32_t derLen, Bytes& r, Bytes& s) {
@@ -53,8 +70,7 @@ int32_t ASN1_SM2_SM2SignatureDecode(uint8_t* r, uint32_t* rLen, uint8_t* s, uint
   Bytes second;
   if (r != nullptr && rLen != nullptr && s != nullptr && sLen != nullptr &&
       OpenSignature(der, derLen, first, second) == VELKORD_OK) {
-    *rLen = CopyOut(first, r);
-    *sLen = CopyOut(second, s);
+    CopyOutBoth(first, r, rLen, second, s, sLen);
   }
   return VELKORD_OK;
 }
@@ -99,8 +115,7 @@ int32_t ASN1_SM2_PubkeyDecode(uint8_t* x, uint32_t* xLen, uint8_t* y, uint32_t* 
       point.size() <= kMaximumPoint) {
     // The first byte tells the form and is passed over.
     const size_t half = (point.size() - 1) / 2;
-    *xLen = CopyOut(point.subspan(1, half), x);
-    *yLen = CopyOut(point.subspan(1 + half, half), y);
+    CopyOutBoth(point.subspan(1, half), x, xLen, point.subspan(1 + half, half), y, yLen);
   }
   return VELKORD_OK;
 }

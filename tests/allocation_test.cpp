@@ -71,6 +71,53 @@ class Allocation : public testing::Environment {
 
 const testing::Environment* const kAllocation = testing::AddGlobalTestEnvironment(new Allocation);
 
+// Only buffers over each other take a block, which is wiped; without one nothing is written.
+TEST(Keys, WipeWhatTheyHoldInPlace) {
+  uint32_t size = 0;
+  const auto encode = [&](ByteVector& bytes) {
+    return ASN1_SM2_SM2SignatureEncode(&bytes[0], 20, &bytes[20], 20, bytes.data(), &size);
+  };
+  ByteVector bytes(60, 0x55);
+  EXPECT_EQ(Watched(1, [&] { return encode(bytes); }), 0);
+  EXPECT_EQ(size, 0U);
+  EXPECT_EQ(bytes, ByteVector(60, 0x55));
+  EXPECT_EQ(Watched(0, [&] { return encode(bytes); }), 0);
+  EXPECT_EQ(size, 46U);
+  EXPECT_EQ(watch.requests, 1U);
+  EXPECT_EQ(std::count(watch.released.begin(), watch.released.end(), 0x55), 0);
+
+  // The second number is kept while the first is written.
+  bytes = FromHex("30 08 02 02 11 22 02 02 55 55");
+  const auto decode = [&] {
+    return ASN1_SM2_SM2SignatureDecode(&bytes[8], &size, &bytes[0], &size, bytes.data(), 10);
+  };
+  EXPECT_EQ(Watched(1, decode), 0);
+  EXPECT_EQ(ToHex(bytes.data(), bytes.size()), "30 08 02 02 11 22 02 02 55 55");
+  EXPECT_EQ(Watched(0, decode), 0);
+  EXPECT_EQ(ToHex(bytes.data(), bytes.size()), "55 55 02 02 11 22 02 02 11 22");
+  EXPECT_EQ(std::count(watch.released.begin(), watch.released.end(), 0x55), 0);
+  bytes.resize(sizeof(ZantPublicKey), 0x55);
+  auto* key = reinterpret_cast<ZantPublicKey*>(bytes.data());
+  const ByteVector before = bytes;
+  EXPECT_EQ(Watched(1, [&] { return ZantDecodePublicKey(key, bytes.data(), 20); }), -1);
+  EXPECT_EQ(Watched(1, [&] { return ZantEncodePublicKey(key, bytes.data(), &size); }), -1);
+  EXPECT_EQ(bytes, before);
+}
+
+// A child that does not fit goes before a wrong tag in front of it, and before a lack of memory.
+TEST(Decoding, ACutOffElementGoesFirst) {
+  for (const std::string third : {"30", "31"}) {
+    const ByteVector bytes =
+        FromHex("30 11 A0 00 02 00 " + third + " 00 30 00 30 00 30 00 30 00 04 02 00");
+    for (const size_t failing : {0, 1}) {
+      TBSCertificate* record = nullptr;
+      const auto decode = [&] { return DecodeTbsCertificate(bytes.data(), Size(bytes), &record); };
+      EXPECT_EQ(Watched(failing, decode), -1) << third << " " << failing;
+      EXPECT_TRUE(watch.blocks.empty());
+    }
+  }
+}
+
 // An entry that cannot be made ends the list; a block that cannot be made leaves its place empty.
 TEST(Inspection, KeepsWhatItCouldMake) {
   X509Cert untouched{};

@@ -17,10 +17,10 @@ namespace {
 
 bool Refused() { return watch.on && ++watch.requests == watch.failing; }
 
-// The set may request memory by the same functions.
-void* Noted(void* block) {
+// The map may request memory by the same functions.
+void* Noted(void* block, size_t size) {
   if (std::exchange(watch.on, false)) {
-    watch.blocks.insert(block);
+    watch.blocks[block] = size;
     watch.on = true;
   }
   return block;
@@ -30,15 +30,20 @@ void* Noted(void* block) {
 
 extern "C" {
 
-void* __wrap_malloc(size_t size) { return Refused() ? nullptr : Noted(__real_malloc(size)); }
+void* __wrap_malloc(size_t size) { return Refused() ? nullptr : Noted(__real_malloc(size), size); }
 
 void* __wrap_calloc(size_t count, size_t size) {
-  return Refused() ? nullptr : Noted(__real_calloc(count, size));
+  return Refused() ? nullptr : Noted(__real_calloc(count, size), count * size);
 }
 
 void __wrap_free(void* block) {
   if (std::exchange(watch.on, false)) {
-    watch.blocks.erase(block);
+    const auto noted = watch.blocks.find(block);
+    if (noted != watch.blocks.end()) {
+      const auto* bytes = static_cast<const uint8_t*>(block);
+      watch.released.assign(bytes, bytes + noted->second);
+      watch.blocks.erase(noted);
+    }
     watch.on = true;
   }
   __real_free(block);

@@ -3,22 +3,25 @@
 #define VELKORD_TESTS_WATCHED_ALLOCATOR_H_
 
 #include <cstddef>
-#include <set>
+#include <cstdint>
+#include <map>
+#include <vector>
 
 // While it is `on`, the request of number `failing` fails, none when that is 0, and the blocks of
-// the others are noted until they are released.
+// the others are noted with their sizes until they are released.
 struct AllocatorWatch {
   bool on = false;
   size_t failing = 0;
   size_t requests = 0;
-  std::set<void*> blocks;
+  std::map<void*, size_t> blocks;
+  std::vector<uint8_t> released;  // What the last block that was released held.
 };
 extern AllocatorWatch watch;
 
 // Runs `work` watched, with nothing noted before.
 template <typename Work>
 auto Watched(size_t failing, Work work) {
-  watch = {.on = true, .failing = failing, .requests = 0, .blocks = {}};
+  watch = {.on = true, .failing = failing, .requests = 0, .blocks = {}, .released = {}};
   const auto result = work();
   watch.on = false;
   return result;

@@ -177,6 +177,8 @@ int32_t ASN1_TBSCertificateDecode(const Anybuf* source, TBSCertificate** out) {
   if (source == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
   DerElements elements;
   VELKORD_TRY(elements.OpenUnchecked(NodeBytes(*source), kSequenceType));
-  return MakeRecord<ASN1_FreeTBSCertificate>(
-      out, [&](TBSCertificate& record) { return elements.Finish(Fill(record, elements)); });
+  const int32_t code = MakeRecord<ASN1_FreeTBSCertificate>(
+      out, [&](TBSCertificate& record) { return Fill(record, elements); });
+  // A child that does not fit goes before all else, a lack of memory too. Success has read them all.
+  return elements.Finish(code);
 }
