@@ -28,10 +28,22 @@ TEST(Sizes, BeyondTheirWidthAreRefused) {
   EXPECT_EQ(ASN1_SM2_PrikeyEncode(&byte, 0xFFFFFFFF, &byte, &size), 0);
   EXPECT_EQ(ASN1_SM2_PubkeyEncode(&byte, 0xFFFFFFFF, &byte, 1, &byte, &size), 0);
   EXPECT_EQ(size, 7U);
-  ZantPublicKey publicKey{};
-  ZantPrivateKey privateKey{};
-  EXPECT_EQ(ZantDecodePublicKey(&publicKey, &byte, INT32_MIN), -1);
-  EXPECT_EQ(ZantDecodePrivateKey(&privateKey, &byte, INT32_MIN), -1);
+  ZantPublicKey publicKey = {{7}, {8}};
+  ZantPrivateKey privateKey = {{7}, {}, {}, {}, {}, {}, {}, {8}};
+  for (const int32_t none : {INT32_MIN, 0}) {
+    EXPECT_EQ(ZantDecodePublicKey(&publicKey, &byte, none), -1);
+    EXPECT_EQ(ZantDecodePrivateKey(&privateKey, &byte, none), -1);
+  }
+  EXPECT_EQ(publicKey.modulus[0] + publicKey.publicExponent[0], 15);
+  EXPECT_EQ(privateKey.modulus[0] + privateKey.coefficient[0], 15);
+}
+
+TEST(Records, KeepTheVersionThatTheyWereGiven) {
+  TBSCertificate* record = nullptr;
+  EXPECT_EQ(ASN1_CreateTBSCertificate(&record), 0);
+  EXPECT_EQ(ASN1_TBSCertificateSetVersion(record, 2), 0);
+  EXPECT_EQ(record->version, 2U);
+  ASN1_FreeTBSCertificate(record);
 }
 
 TEST(Inspection, RecordOwnsWhatItsFieldsHold) {
@@ -50,6 +62,7 @@ TEST(Inspection, RecordOwnsWhatItsFieldsHold) {
   record->entriesB->next->block1 = static_cast<uint8_t*>(std::malloc(1));
   X509CertFree(record);
   X509CertFree(nullptr);
+  ASN1_FreeObjectID(nullptr);
 }
 
 }  // namespace
