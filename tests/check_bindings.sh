@@ -32,7 +32,7 @@ declares() {
 }
 
 echo "== Declarations"
-"$root"/scripts/make-bindings --check
+python3 "$root"/scripts/bindings.py --check
 declares "$csharp" 's/^ *public static extern \w+ (\w+)\(.*/\1/p'
 declares "$delphi"/Velkord.pas 's/^(function|procedure) (\w+)\(.*/\2/p'
 declares "$delphi"/Velkord.pas "s/.*cdecl; external VelkordLibrary name '(\w+)';$/\1/p"
