@@ -13,7 +13,7 @@ int32_t Fill(RevokedCertificate& record, DerElements& elements) {
   VELKORD_TRY(elements.Next(element));
   VELKORD_TRY(TimeRewrite(element, &record.revocationDate));
   if (elements.AtEnd()) return VELKORD_OK;
-  VELKORD_TRY(NextSequence(elements, record.crlEntryExtensions));
+  VELKORD_TRY(DerRewrapNext(elements, &record.crlEntryExtensions));
   record.hasCrlEntryExtensions = 1;
   return VELKORD_OK;
 }

@@ -23,7 +23,7 @@ int32_t FillOptionals(TbsCertList& record, DerElements& elements) {
     record.hasNextUpdate = 1;
   }
   if (elements.StartsWith(kSequence)) {
-    VELKORD_TRY(NextSequence(elements, record.revokedCertificates));
+    VELKORD_TRY(DerRewrapNext(elements, &record.revokedCertificates));
     record.hasRevokedCertificates = 1;
   }
   if (elements.AtEnd()) return VELKORD_OK;
@@ -39,8 +39,8 @@ int32_t Fill(TbsCertList& record, DerElements& elements) {
     VELKORD_TRY(elements.Next(element));
     record.version = DerBytesToUint(element.Content());
   }
-  VELKORD_TRY(NextSequence(elements, record.signature));
-  VELKORD_TRY(NextSequence(elements, record.issuer));
+  VELKORD_TRY(DerRewrapNext(elements, &record.signature));
+  VELKORD_TRY(DerRewrapNext(elements, &record.issuer));
   VELKORD_TRY(elements.Next(element));
   uint8_t form;
   VELKORD_TRY(TimeReadByFirstOctet(element, form, record.thisUpdate));

@@ -90,7 +90,11 @@ int32_t DerElements::OpenContent(Bytes content) {
 }
 
 int32_t DerElements::Next(DerElement& child) {
-  return !AtEnd() && DerTakeElement(rest_, child) == VELKORD_OK ? VELKORD_OK : VELKORD_FAILURE;
+  return DerOpenShortElement(rest_, child) ? Advance(child) : NextOfAnyHeader(child);
+}
+
+int32_t DerElements::NextOfAnyHeader(DerElement& child) {
+  return DerOpenAnyElement(rest_, child) == VELKORD_OK ? Advance(child) : VELKORD_FAILURE;
 }
 
 int32_t DerElements::OpenUnchecked(Bytes in, uint32_t type) {

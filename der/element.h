@@ -70,29 +70,36 @@ struct DerElement {
 };
 
 // Opens the element at the front of `in`, whatever its header. 0, -1 or -2 as the parsers above.
-int32_t DerOpenAnyElement(Bytes in, DerElement& element);
+// Kept out of the loops that read short headers.
+[[gnu::cold]] int32_t DerOpenAnyElement(Bytes in, DerElement& element);
 
-// The same, at once for nearly all headers: a tag of one octet and a length of one, or of one or
-// two behind the octet that counts them.
-inline int32_t DerOpenElement(Bytes in, DerElement& element) {
+// Opens the element at the front of `in` if its header is short, as nearly all are: a tag of one
+// octet and a length of one, or of one or two behind the octet that counts them. False for any
+// other header, and for an element that does not fit.
+inline bool DerOpenShortElement(Bytes in, DerElement& element) {
   const size_t size = in.size();
-  if (size >= 2 && !IsLongTag(in[0])) {
-    size_t header = 2;
-    size_t whole = header + in[1];
-    if (in[1] == 0x82 && size >= 4) {
+  if (size < 2 || IsLongTag(in[0])) return false;
+  size_t header = 2;
+  size_t length = in[1];
+  if (length >= 0x80) {
+    if (length == 0x82 && size >= 4) {
       header = 4;
-      whole = header + (size_t{in[2]} << 8 | in[3]);
-    } else if (in[1] == 0x81 && size >= 3) {
+      length = size_t{in[2]} << 8 | in[3];
+    } else if (length == 0x81 && size >= 3) {
       header = 3;
-      whole = header + in[2];
-    }
-    // cppcheck-suppress knownConditionTrueFalse ; it takes no account of the branches above
-    if (header != 2 || in[1] < 0x80) {
-      if (whole > size) return VELKORD_SIZE_MISMATCH;
-      element = {ReduceTag(in[0]), header, in.first(whole)};
-      return VELKORD_OK;
+      length = in[2];
+    } else {
+      return false;
     }
   }
+  if (length > size - header) return false;
+  element = {ReduceTag(in[0]), header, in.first(header + length)};
+  return true;
+}
+
+// Opens the element at the front of `in`. 0, -1 or -2 as the parsers above.
+inline int32_t DerOpenElement(Bytes in, DerElement& element) {
+  if (DerOpenShortElement(in, element)) return VELKORD_OK;
   // By an element of its own, so that `element` is not kept in memory for its sake.
   DerElement any;
   VELKORD_TRY(DerOpenAnyElement(in, any));
@@ -139,6 +146,9 @@ class DerElements {
   // Whether there is a next child, whose first octet is `octet`.
   bool StartsWith(uint8_t octet) const { return !rest_.empty() && rest_[0] == octet; }
 
+  // The first octet of the next child, which there must be.
+  uint8_t NextOctet() const { return rest_[0]; }
+
   // Gives the next child. 0, or -1 at the end and for one that does not fit.
   int32_t Next(DerElement& child);
 
@@ -155,6 +165,12 @@ class DerElements {
   }
 
  private:
+  int32_t Advance(const DerElement& child) {
+    rest_ = rest_.subspan(child.whole.size());
+    return VELKORD_OK;
+  }
+  [[gnu::cold]] int32_t NextOfAnyHeader(DerElement& child);
+
   Bytes rest_;
 };
 

@@ -140,23 +140,44 @@ int32_t DerJoin(uint8_t tag, std::initializer_list<Bytes> parts, Anybuf** out) {
       out);
 }
 
-int32_t DerRewrap(uint8_t tag, const DerElement& element, Anybuf** out) {
-  if (element.tag != ReduceTag(tag)) return VELKORD_WRONG_TAG;
+int32_t DerRetag(uint8_t tag, const DerElement& element, Anybuf** out) {
   const Bytes content = element.Content();
-  VELKORD_TRY(DerCheckChildren(content));
   if (element.headerSize != 1 + DerLengthSize(static_cast<uint32_t>(content.size()))) {
-    return DerBuild(tag, content, out);
+    return DerJoin(tag, {content}, out);
   }
-  // In shortest form already: all of it but the tag, of which the class may be another.
-  VELKORD_TRY(DerCopyBytes(element.whole, element.tag, 0, out));
+  VELKORD_TRY(DerCopyBytes(element.whole, ReduceTag(tag), 0, out));
   (*out)->data[0] = tag;
   return VELKORD_OK;
+}
+
+int32_t DerRewrite(uint8_t tag, const DerElement& element, Anybuf** out) {
+  // Mostly there is no such octet, or an INTEGER has the very one that it would be given.
+  const Bytes whole = element.Content();
+  const auto hasOctet = [](uint32_t type) { return type == kBitString || type == kInteger; };
+  const bool isPlain = !hasOctet(tag) && !hasOctet(element.tag);
+  const bool isInteger = tag == kInteger && element.tag == tag && !whole.empty() && whole[0] < 0x80;
+  if (isPlain || isInteger) return DerRetag(tag, element, out);
+  Bytes content;
+  VELKORD_TRY(DerOpenContent(element, content));
+  return DerBuild(tag, content, out);
+}
+
+int32_t DerRewrap(uint8_t tag, const DerElement& element, Anybuf** out) {
+  if (element.tag != ReduceTag(tag)) return VELKORD_WRONG_TAG;
+  VELKORD_TRY(DerCheckChildren(element.Content()));
+  return DerRetag(tag, element, out);
 }
 
 int32_t DerRewrap(uint8_t tag, Bytes in, Anybuf** out) {
   DerElement element;
   VELKORD_TRY(DerParseElementOf(ReduceTag(tag), in, element));
   return DerRewrap(tag, element, out);
+}
+
+int32_t DerRewrapNext(DerElements& children, Anybuf** out) {
+  DerElement child;
+  VELKORD_TRY(children.Next(child));
+  return DerRewrap(kSequence, child, out);
 }
 
 int32_t DerSplit(DerElements& children, Anybuf** out) {

@@ -150,10 +150,22 @@ int32_t DerJoinEach(uint8_t tag, ForEach forEach, Anybuf** out) {
 // One element from the bytes of all `parts`; an absent part is an empty view.
 int32_t DerJoin(uint8_t tag, std::initializer_list<Bytes> parts, Anybuf** out);
 
+// An opened element under the tag octet `tag`, its content as it stands and its length in shortest
+// form.
+int32_t DerRetag(uint8_t tag, const DerElement& element, Anybuf** out);
+
+// The same as an element of another type: the octet that a BIT STRING or a positive INTEGER has in
+// front is dropped from what is read, and put in front of what is written, without unused bits.
+// 0, -1, or -2 for a BIT STRING without its octet.
+int32_t DerRewrite(uint8_t tag, const DerElement& element, Anybuf** out);
+
 // A finished SEQUENCE or SET, checked, back out with its length in shortest form.
 // 0, -1, -2 or -7.
 int32_t DerRewrap(uint8_t tag, Bytes in, Anybuf** out);
 int32_t DerRewrap(uint8_t tag, const DerElement& element, Anybuf** out);
+
+// The next child of an opened element, a SEQUENCE, as such. 0, -1 when there is none, -2 or -7.
+int32_t DerRewrapNext(DerElements& children, Anybuf** out);
 
 // The children of an opened element as a chain of TLV nodes, null when there are none.
 int32_t DerSplit(DerElements& children, Anybuf** out);

@@ -34,9 +34,10 @@ class TwoDigits {
 };
 
 uint8_t* PutTwoDigits(uint8_t* place, int value) {
-  *place++ = static_cast<uint8_t>('0' + value / 10);
-  *place++ = static_cast<uint8_t>('0' + value % 10);
-  return place;
+  const auto number = static_cast<uint32_t>(value);
+  place[0] = static_cast<uint8_t>('0' + number / 10);
+  place[1] = static_cast<uint8_t>('0' + number % 10);
+  return place + 2;
 }
 
 // The time that a text tells, and its fields in range.
@@ -115,10 +116,11 @@ void TimeElement::Set(const std::tm& fields, uint8_t tag) {
   const int year = fields.tm_year + kYearBase;
   if (tag == kGeneralizedTime) end = PutTwoDigits(end, year / 100);
   end = PutTwoDigits(end, year % 100);
-  for (const int field :
-       {fields.tm_mon + 1, fields.tm_mday, fields.tm_hour, fields.tm_min, fields.tm_sec}) {
-    end = PutTwoDigits(end, field);
-  }
+  end = PutTwoDigits(end, fields.tm_mon + 1);
+  end = PutTwoDigits(end, fields.tm_mday);
+  end = PutTwoDigits(end, fields.tm_hour);
+  end = PutTwoDigits(end, fields.tm_min);
+  end = PutTwoDigits(end, fields.tm_sec);
   *end++ = 'Z';
   octets_[1] = static_cast<uint8_t>(end - text);
   size_ = static_cast<size_t>(end - octets_);

@@ -11,7 +11,7 @@ int32_t Fill(ExtendedCertificateInfo& record, DerElements& elements) {
   DerElement element;
   VELKORD_TRY(elements.Next(element));
   record.version = DerBytesToUint(element.Content());
-  VELKORD_TRY(NextSequence(elements, record.certificate));
+  VELKORD_TRY(DerRewrapNext(elements, &record.certificate));
   VELKORD_TRY(elements.Next(element));
   return DerRewrap(kSet, element, &record.attributes);
 }

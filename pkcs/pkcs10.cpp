@@ -27,8 +27,8 @@ int32_t Fill(PKCS10& record, DerElements& elements) {
   DerElement element;
   VELKORD_TRY(elements.Next(element));
   VELKORD_TRY(ASN1_WriteInteger(DerBytesToUint(element.Content()), &record.version));
-  VELKORD_TRY(NextSequence(elements, record.subject));
-  VELKORD_TRY(NextSequence(elements, record.subjectPublicKeyInfo));
+  VELKORD_TRY(DerRewrapNext(elements, &record.subject));
+  VELKORD_TRY(DerRewrapNext(elements, &record.subjectPublicKeyInfo));
   if (elements.AtEnd()) return VELKORD_OK;
   VELKORD_TRY(elements.Next(element));
   return FillAttributes(element, record.attributes);

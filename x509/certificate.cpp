@@ -10,9 +10,7 @@ using Shape = SignedRecord<Certificate, &Certificate::tbsCertificate,
 
 // A decoded certificate states no unused bits, whatever its signature held.
 int32_t MakeSignature(const DerElement& element, Anybuf** out) {
-  Bytes bits;
-  VELKORD_TRY(DerOpenContent(element, bits));
-  return DerBuild(kBitString, bits, out);
+  return DerRewrite(kBitString, element, out);
 }
 
 }  // namespace

@@ -40,7 +40,7 @@ int32_t ASN1_GetSubjectPublicKeyInfo(const Anybuf* source, Anybuf** outAlgorithm
   NodePtr algorithm;
   Bytes bits;
   VELKORD_TRY(elements.Open(NodeBytes(*source), kSequenceType));
-  VELKORD_TRY(NextSequence(elements, *algorithm.Out()));
+  VELKORD_TRY(DerRewrapNext(elements, algorithm.Out()));
   VELKORD_TRY(DerNextContent(elements, bits));
   VELKORD_TRY(DerBuild(kBitString, bits, outKey));
   *outAlgorithm = algorithm.release();

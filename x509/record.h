@@ -106,14 +106,6 @@ inline int32_t JoinFields(std::initializer_list<Field> fields, Anybuf** out) {
   return VELKORD_OK;
 }
 
-// Fills a field with the next element, a SEQUENCE, its length rewritten in shortest form.
-// 0, -1, -2 or -7.
-inline int32_t NextSequence(DerElements& elements, Anybuf*& field) {
-  DerElement element;
-  VELKORD_TRY(elements.Next(element));
-  return DerRewrap(kSequence, element, &field);
-}
-
 // Makes a record that `fill` fills, and when that fails nothing is left. 0, -7000, or the code of
 // `fill`.
 template <auto kFree, typename Record, typename Fill>

@@ -36,8 +36,8 @@ struct SignedRecord {
   static int32_t Decode(const uint8_t* bytes, uint32_t length, Record** out,
                         int32_t (*makeSignature)(const DerElement&, Anybuf**) = CopySignature) {
     return DecodeRecord<Free>(bytes, length, out, [=](Record& record, DerElements& elements) {
-      VELKORD_TRY(NextSequence(elements, record.*kSigned));
-      VELKORD_TRY(NextSequence(elements, record.*kAlgorithm));
+      VELKORD_TRY(DerRewrapNext(elements, &(record.*kSigned)));
+      VELKORD_TRY(DerRewrapNext(elements, &(record.*kAlgorithm)));
       DerElement element;
       VELKORD_TRY(elements.Next(element));
       return makeSignature(element, &(record.*kSignature));

@@ -23,15 +23,10 @@ int32_t SetUniqueId(TBSCertificate* record, FieldPointer field, uint32_t TBSCert
   });
 }
 
-// An optional element as it is read.
-struct Optional {
-  bool present = false;
-  Bytes bytes;
-};
-
-// The optional elements by their tag numbers.
+// The optional elements by their tag numbers, empty where there is none; the first takes all
+// others.
 constexpr size_t kTagNumbers = kExtensionsTag + 1;
-using Optionals = std::array<Optional, kTagNumbers>;
+using Optionals = std::array<DerElement, kTagNumbers>;
 
 // The bits of a unique identifier: of a constructed element its first inner element as it stands.
 int32_t OpenUniqueId(const DerElement& element, Bytes& bits) {
@@ -45,22 +40,33 @@ int32_t OpenUniqueId(const DerElement& element, Bytes& bits) {
   return VELKORD_OK;
 }
 
-// The low five bits of a tag alone tell which element it is; the last of its kind counts.
-int32_t OpenOptional(const DerElement& element, Optionals& optionals) {
-  const uint32_t number = element.tag & kTagNumberMask;
-  if (number < kIssuerUniqueIdTag || number > kExtensionsTag) return VELKORD_OK;
-  Optional& optional = optionals[number];
-  optional.present = true;
-  return number == kExtensionsTag ? DerOpenContent(element, optional.bytes)
-                                  : OpenUniqueId(element, optional.bytes);
+// Reads the next element. The low five bits of its first octet alone tell which it is; the last of
+// its kind counts, but each must open.
+int32_t NextOptional(DerElements& elements, Optionals& optionals) {
+  const uint32_t number = elements.NextOctet() & kTagNumberMask;
+  DerElement& element = optionals[number < kTagNumbers ? number : 0];
+  VELKORD_TRY(elements.Next(element));
+  Bytes content;
+  switch (number) {
+    case kIssuerUniqueIdTag:
+    case kSubjectUniqueIdTag:
+      return OpenUniqueId(element, content);
+    case kExtensionsTag:
+      return DerOpenContent(element, content);
+    default:
+      return VELKORD_OK;
+  }
 }
 
 // Sets a unique identifier with the unused bits that its last byte implies.
-int32_t FillUniqueId(uint32_t tagNumber, const Optional& optional, Anybuf*& field, uint32_t& flag) {
-  if (!optional.present) return VELKORD_OK;
-  const auto unusedBits = static_cast<uint8_t>(ImpliedUnusedBits(optional.bytes));
+int32_t FillUniqueId(uint32_t tagNumber, const DerElement& element, Anybuf*& field,
+                     uint32_t& flag) {
+  if (element.whole.empty()) return VELKORD_OK;
+  Bytes bits;
+  VELKORD_TRY(OpenUniqueId(element, bits));
+  const auto unusedBits = static_cast<uint8_t>(ImpliedUnusedBits(bits));
   const auto tag = static_cast<uint8_t>(kContextPrimitive | tagNumber);
-  VELKORD_TRY(DerJoin(tag, {{&unusedBits, 1}, optional.bytes}, &field));
+  VELKORD_TRY(DerJoin(tag, {{&unusedBits, 1}, bits}, &field));
   flag = 1;
   return VELKORD_OK;
 }
@@ -70,32 +76,27 @@ int32_t FillOptionals(const Optionals& optionals, TBSCertificate& record) {
                            record.hasIssuerUniqueID));
   VELKORD_TRY(FillUniqueId(kSubjectUniqueIdTag, optionals[kSubjectUniqueIdTag],
                            record.subjectUniqueID, record.hasSubjectUniqueID));
-  const Optional& extensions = optionals[kExtensionsTag];
-  if (!extensions.present) return VELKORD_OK;
-  VELKORD_TRY(DerBuild(kSequence, extensions.bytes, &record.extensions));
+  const DerElement& extensions = optionals[kExtensionsTag];
+  if (extensions.whole.empty()) return VELKORD_OK;
+  VELKORD_TRY(DerRewrite(kSequence, extensions, &record.extensions));
   record.hasExtensions = 1;
   return VELKORD_OK;
 }
 
 int32_t Fill(TBSCertificate& record, DerElements& elements) {
   DerElement element;
-  Bytes content;
   // The first element is the version whatever its tag, which stays.
   VELKORD_TRY(elements.Next(element));
-  VELKORD_TRY(DerOpenContent(element, content));
-  VELKORD_TRY(DerBuild(ExplicitTag(element.tag), content, &record.versionNode));
-  VELKORD_TRY(DerNextContent(elements, content));
-  VELKORD_TRY(DerBuild(kInteger, content, &record.serialNumber));
+  VELKORD_TRY(DerRewrite(ExplicitTag(element.tag), element, &record.versionNode));
+  VELKORD_TRY(elements.Next(element));
+  VELKORD_TRY(DerRewrite(kInteger, element, &record.serialNumber));
   for (const FieldPointer field :
        {&TBSCertificate::signature, &TBSCertificate::issuer, &TBSCertificate::validity,
         &TBSCertificate::subject, &TBSCertificate::subjectPublicKeyInfo}) {
-    VELKORD_TRY(NextSequence(elements, record.*field));
+    VELKORD_TRY(DerRewrapNext(elements, &(record.*field)));
   }
   Optionals optionals;
-  while (!elements.AtEnd()) {
-    VELKORD_TRY(elements.Next(element));
-    VELKORD_TRY(OpenOptional(element, optionals));
-  }
+  while (!elements.AtEnd()) VELKORD_TRY(NextOptional(elements, optionals));
   return FillOptionals(optionals, record);
 }
 
@@ -179,6 +180,6 @@ int32_t ASN1_TBSCertificateDecode(const Anybuf* source, TBSCertificate** out) {
   VELKORD_TRY(elements.OpenUnchecked(NodeBytes(*source), kSequenceType));
   const int32_t code = MakeRecord<ASN1_FreeTBSCertificate>(
       out, [&](TBSCertificate& record) { return Fill(record, elements); });
-  // A child that does not fit goes before all else, a lack of memory too. Success has read them all.
+  // A child that does not fit goes before all else, a lack of memory too. Success has read all.
   return elements.Finish(code);
 }
