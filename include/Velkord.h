@@ -9,8 +9,12 @@
 ///
 /// **Reduced tags.** `dataType` is the tag octet itself when it is 0x80 or above, and its low five
 /// bits otherwise: a SEQUENCE (0x30) is 16, a SET (0x31) is 17, `[3]` EXPLICIT stays 0xA3. A tag of
-/// several octets is `(number << 8) | first octet`, the number cut to 24 bits, and so equals no tag
-/// of one octet.
+/// several octets is `(number << 8) | first octet`, the number cut to 24 bits: `9F 21` is 0x219F,
+/// `BF 00` is 0xBF. Its low five bits are all set, as those of no tag of one octet are.
+///
+/// **Lengths.** Reading takes lengths of up to four octets behind the one that counts them, in
+/// shortest form or not. The indefinite length (80) is refused, with -2 for the element that a
+/// function was given and with -1 for one inside it.
 ///
 /// **Ownership.** Inputs are copied and stay the caller's; the one exception is
 /// `ASN1_SetAlgorithmIdentifier`. What a function hands out is new, and the caller releases it with
@@ -25,8 +29,8 @@
 /// whose `data` is null counts as holding no bytes. Lengths count bytes.
 ///
 /// **Buffers.** An out buffer comes without its size: each comment states the room that it needs. A
-/// reader of one content may be given the `data` of its own source; otherwise buffers and inputs do
-/// not overlap.
+/// reader of one content may be given the `data` of its own source, and the functions of RSA, EC
+/// and SM2 keys may write over what they read; otherwise buffers and inputs do not overlap.
 #ifndef VELKORD_H_
 #define VELKORD_H_
 
@@ -59,16 +63,18 @@ extern "C" {
 
 /// Return codes.
 enum {
-  VELKORD_OK = 0,        ///< Success.
-  VELKORD_FAILURE = -1,  ///< A length of more than 4 subsequent octets; an element that overruns
-                         ///< its parent or is missing from it; out of memory for a node;
-                         ///< whatever a function of RSA or EC keys refuses.
-  VELKORD_SIZE_MISMATCH = -2,  ///< Tag, length and content do not add up to the bytes given.
+  VELKORD_OK = 0,              ///< Success.
+  VELKORD_FAILURE = -1,        ///< A length of more than 4 subsequent octets; a child that overruns
+                               ///< its parent, has the indefinite length or is missing; out of
+                               ///< memory for a node; all that a function of EC keys refuses, and
+                               ///< of RSA keys all that is not -2 or -7.
+  VELKORD_SIZE_MISMATCH = -2,  ///< Tag, length and content do not add up to the bytes given, or the
+                               ///< length is indefinite.
   VELKORD_NEGATIVE_TIME = -4,  ///< A time value below 0.
   VELKORD_BAD_TIME = -5,       ///< A time text without its digits or its final "Z".
   VELKORD_WRONG_TAG = -7,      ///< Not the SEQUENCE, SET, time form or string type that is needed.
   VELKORD_NULL_ARGUMENT = -8,  ///< A null argument, or a required field that was never set.
-  VELKORD_OUT_OF_MEMORY = -7000  ///< Out of memory for a record; a time the platform refuses.
+  VELKORD_OUT_OF_MEMORY = -7000  ///< Out of memory for a record; or a time outside 1970 to 2038.
 };
 
 /// @}
@@ -84,7 +90,8 @@ typedef struct Anybuf {
   uint8_t* data;        ///< The node's own block.
   uint32_t dataLen;     ///< Number of bytes at `data`.
   uint32_t unusedBits;  ///< Unused bits of a BIT STRING; no meaning for other types.
-  uint32_t memKind;     ///< 2 on every node that the library makes; nothing tests it.
+  uint32_t memKind;     ///< 2 on a node that the library makes; a copy of a node carries that of
+                        ///< its source over. Nothing tests it.
   uint32_t dataType;    ///< Reduced tag.
   struct Anybuf* next;  ///< Next node of the chain, null on the last.
   struct Anybuf* prev;  ///< Node before this one in a chain from a split; else null.
@@ -466,8 +473,9 @@ VELKORD_API int32_t ASN1_WriteBitStringFromDERBytes(const uint8_t* bytes, uint32
 /// Returns 0, -1 (memory) or -8.
 VELKORD_API int32_t ASN1_WriteBoolean(const uint8_t* value, Anybuf** out);
 
-/// Gives the first content octet of a TLV node of any type.
-/// Returns 0, -1 (length octets), -2 (also for an element without content) or -8.
+/// Gives the first content octet of a TLV node of any type as it stands: that of a BIT STRING is
+/// its unused-bits octet. Returns 0, -1 (length octets), -2 (also for an element without content)
+/// or -8.
 VELKORD_API int32_t ASN1_ReadBoolean(const Anybuf* source, uint8_t* value);
 
 /// Makes the TLV node of a NULL. Free with `ASN1_FreeAnybuf`. Returns 0, -1 (memory) or -8.
@@ -584,17 +592,20 @@ VELKORD_API int32_t ASN1_WriteUTF8StringFromDERBytes(const uint8_t* bytes, uint3
 // -------------------------------------------------------------------------------------------------
 
 /// Makes the TLV node of a time. The text is the machine's local time followed by "Z", so it is UTC
-/// only where the local zone is UTC. Free with `ASN1_FreeAnybuf`. Returns 0, -4 (negative), -7000
-/// (memory, or the platform refuses) or -8.
+/// only where the local zone is UTC. The zone is that of the C library: the one that TZ names at
+/// the call, or without TZ the one that it has read; whoever changes that calls `tzset`, on Windows
+/// `_tzset`. Free with `ASN1_FreeAnybuf`. Returns 0, -4 (negative), -7000 (memory, or the platform
+/// refuses) or -8.
 /// @{
 VELKORD_API int32_t ASN1_WriteGeneralizedTime(const int32_t* time, Anybuf** out);
 VELKORD_API int32_t ASN1_WriteUtcTime(const int32_t* time, Anybuf** out);
 /// @}
 
 /// Reads the time of a TLV node as local time. UTCTime years 00 to 69 are 2000 to 2069, and fields
-/// out of range carry over: day 32 of January is 1 February. Returns 0, -1
-/// (length octets), -2 (no whole header), -5 (short, no digits, no "Z"), -7 (another `dataType`),
-/// -7000 (before 1970 or beyond 2038) or -8.
+/// out of range carry over: day 32 of January is 1 February. Of an hour that occurs twice the
+/// earlier one is read; an hour that the clocks skip is read as if they had not been changed.
+/// Returns 0, -1 (length octets), -2 (no whole header), -5 (short, no digits, no "Z"), -7 (another
+/// `dataType`), -7000 (before 1970, or after 19 January 2038, 03:14:07 UTC) or -8.
 /// @{
 VELKORD_API int32_t ASN1_ReadGeneralizedTime(const Anybuf* source, int32_t* time);
 VELKORD_API int32_t ASN1_ReadUtcTime(const Anybuf* source, int32_t* time);
@@ -768,9 +779,10 @@ VELKORD_API int32_t ASN1_GetExtensionOne(int32_t id, const uint8_t* oid, uint32_
                                          uint32_t valueLength, Anybuf** out);
 
 /// Opens an Extension TLV node: OBJECT IDENTIFIER, BOOLEAN and OCTET STRING as new TLV nodes.
-/// `outCritical` is written only when there are exactly three elements: preset it to null. Free
-/// each with `ASN1_FreeAnybuf`.
-/// Returns 0, -1 (also fewer than two elements), -2, -7 (no SEQUENCE) or -8.
+/// `outCritical` is written only when there are exactly three elements: preset it to null. It holds
+/// the first content octet of the second, whatever its type. Free each with `ASN1_FreeAnybuf`.
+/// Returns 0, -1 (also fewer than two elements), -2 (also a BOOLEAN without content), -7 (no
+/// SEQUENCE) or -8.
 VELKORD_API int32_t ASN1_GetExtension(const Anybuf* source, Anybuf** outOid, Anybuf** outCritical,
                                       Anybuf** outValue);
 
@@ -827,11 +839,13 @@ VELKORD_API int32_t ASN1_TBSCertificateSetExtensions(TBSCertificate* record, con
 VELKORD_API int32_t ASN1_TBSCertificateWriteData(const TBSCertificate* record, Anybuf** out);
 
 /// Decodes a TBSCertificate TLV node into a new record. The first element is always taken for the
-/// version; `version` stays 0. Optional elements are told by the low five bits of their tags. The
+/// version; `version` stays 0. Optional elements are told by the low five bits of their tags, in
+/// any order; of several of one kind the last counts, and all others are passed over. The
 /// unused-bits octets of the identifiers are derived anew (the one that stood in `[2]` stays in its
-/// content), and `extensions` holds a SEQUENCE around the list. Free with
-/// `ASN1_FreeTBSCertificate`. Returns 0, -1 (also fewer than seven elements), -2, -7 (it or one of
-/// elements 3 to 7 is no SEQUENCE), -7000 (memory) or -8.
+/// content), and `extensions` holds a SEQUENCE around the list: what is written again is not what
+/// was signed. Free with `ASN1_FreeTBSCertificate`. Returns 0, -1 (also fewer than seven elements),
+/// -2 (also an identifier `81 00`, `A1 00` or `A2 00`), -7 (it or one of elements 3 to 7 is no
+/// SEQUENCE), -7000 (memory) or -8.
 VELKORD_API int32_t ASN1_TBSCertificateDecode(const Anybuf* source, TBSCertificate** out);
 
 /// @}
@@ -902,9 +916,10 @@ VELKORD_API int32_t ASN1_PKCS6_CertificateWriteData(const ExtendedCertificate* r
 /// @}
 
 /// Decodes DER of exactly `length` bytes into a new record. The first two nodes have their lengths
-/// in shortest form; the signature is a copy as it stands, but that of a certificate, whose
-/// unused-bits octet becomes 0. Elements behind the third are passed over. Free with the function
-/// of the same type.
+/// in shortest form. The signature is a copy as it stands, whatever its type; that of a certificate
+/// alone is written again as a BIT STRING, its length in shortest form and its unused-bits octet 0,
+/// over the content that `ASN1_ReadBitString` gives of an element of its type. Elements behind the
+/// third are passed over. Free with the function of the same type.
 /// Returns 0, -1 (also fewer than three elements), -2, -7 (it or one of elements 1 and 2 is no
 /// SEQUENCE), -7000 (memory) or -8 (also null bytes of length 0).
 /// @{
@@ -943,11 +958,12 @@ VELKORD_API int32_t X509CertGetSubject(X509Cert* record);
 
 /// Looks up the extension whose OID is `oidText`, dotted text of `textLength` characters, in a
 /// decoded `tbs`. In its value, a SEQUENCE of items, each a SEQUENCE of OID and value, it looks for
-/// the item "1.2.156.1.8888.148" and copies the content of that item's value to `value`, which
-/// needs room for all of it. The last match counts; malformed parts are passed over. `valueLength`
-/// is written only on a match: preset it to 0.
-/// Returns 0, also when nothing is found; -1 when `tbs` has no extensions or when `value` or
-/// `valueLength` is null; or -8 (null `record`, `oidText` or `tbs`).
+/// the item "1.2.156.1.8888.148" and copies the content of that item's value to `value`. Every
+/// match is written there, one over the other, and the last counts, so `value` needs room for the
+/// longest: `dataLen` of `tbs->extensions` is enough. Malformed parts are passed over.
+/// `valueLength` is written only on a match: preset it to 0. Returns 0, also when nothing is found;
+/// -1 when `tbs` has no extensions or when `value` or `valueLength` is null; or -8 (null `record`,
+/// `oidText` or `tbs`).
 VELKORD_API int32_t X509CertGetOIDValue(const X509Cert* record, const char* oidText,
                                         int32_t textLength, uint8_t* value, uint32_t* valueLength);
 
@@ -1091,8 +1107,10 @@ VELKORD_API int32_t ASN1_PKCS10WriteData(const PKCS10* record, Anybuf** out);
 /// Decodes the DER of one signed part of exactly `length` bytes into a new record. The first
 /// element is read as a number and written again; the other nodes have their lengths in shortest
 /// form. The attributes may be missing, and such a record can be written only after they are set;
-/// they keep the tag number of their element, and come back constructed. Elements behind them are
-/// passed over. Free with `ASN1_FreePKCS10`.
+/// they come back constructed under the tag number of their element, of which a tag of several
+/// octets leaves 31 alone (BF). An element that is not a constructed context or private one loses
+/// its first content octet when its tag is odd. Elements behind them are passed over. Free with
+/// `ASN1_FreePKCS10`.
 /// Returns 0, -1 (also fewer than three elements), -2, -7 (it or one of elements 2 and 3 is no
 /// SEQUENCE), -7000 (memory) or -8 (also null bytes of length 0).
 VELKORD_API int32_t ASN1_PKCS10Decode(const uint8_t* bytes, uint32_t length, PKCS10** out);
@@ -1178,7 +1196,8 @@ VELKORD_API int32_t ASN1_PKCS7_Decode(const uint8_t* bytes, uint32_t length, PKC
 
 // -------------------------------------------------------------------------------------------------
 /// @defgroup rsa_keys RSA keys
-/// A null argument gives -1, and nothing is allocated.
+/// A null argument gives -1. Nothing is allocated unless record and DER overlap; then a lack of
+/// memory gives -1 and changes nothing.
 /// @{
 // -------------------------------------------------------------------------------------------------
 
@@ -1193,11 +1212,12 @@ VELKORD_API int32_t ZantEncodePrivateKey(const ZantPrivateKey* key, uint8_t* der
 
 /// Fills a record from DER of exactly `derLen` bytes. A private key may stand in a PrivateKeyInfo
 /// of PKCS#8, told by a second element with 13 bytes of content. No tag but that of the SEQUENCE
-/// around the numbers, and around the PrivateKeyInfo, is tested. A failure while reading leaves the
-/// numbers read so far and zero bytes elsewhere; a null argument and a `derLen` below 1 leave the
-/// record alone. A record that was decoded is not ready to be encoded unless every number fills its
-/// field.
-/// Returns 0, -1 (also a missing element, a number too long for its field), -2 or -7 (no SEQUENCE).
+/// around the numbers, and around the PrivateKeyInfo, is tested. Numbers of more than 2048 bits,
+/// and primes of more than 1024, do not fit the record: `ASN1_GetRSAPublicKey` reads any. A failure
+/// while reading leaves the numbers read so far and zero bytes elsewhere; a null argument and a
+/// `derLen` below 1 leave the record alone. A record that was decoded is not ready to be encoded
+/// unless every number fills its field. Returns 0, -1 (also a missing element, a number too long
+/// for its field), -2 or -7 (no SEQUENCE).
 /// @{
 VELKORD_API int32_t ZantDecodePublicKey(ZantPublicKey* key, const uint8_t* der, int32_t derLen);
 VELKORD_API int32_t ZantDecodePrivateKey(ZantPrivateKey* key, const uint8_t* der, int32_t derLen);
@@ -1217,16 +1237,17 @@ VELKORD_API int32_t ZantDecodePrivateKey(ZantPrivateKey* key, const uint8_t* der
 VELKORD_API int32_t ASN1_EccPubkey2Der(const EccPubkey* key, uint8_t* der, uint32_t* derLen);
 
 /// Fills a record from the DER of a SubjectPublicKeyInfo of exactly `derLen` bytes, whatever its
-/// algorithm: the point's second to 65th byte and `bits`, 256. Its first byte is not tested.
-/// Returns 0, or -1, the record then untouched: the DER does not add up, an element is missing, the
-/// point is shorter than 65 bytes, an argument is null.
+/// algorithm: the point's second to 65th byte and `bits`, 256. Its first byte is not tested, and of
+/// a longer point, that of a larger curve, the rest is passed over.
+/// Returns 0, or -1, the record then untouched: the DER is no SEQUENCE or does not add up, an
+/// element is missing, the point is shorter than 65 bytes, an argument is null.
 VELKORD_API int32_t ASN1_Der2EccPubkey(const uint8_t* der, uint32_t derLen, EccPubkey* key);
 
 /// Fills a record from the DER of an ECPrivateKey in a PrivateKeyInfo of PKCS#8, of exactly
 /// `derLen` bytes, whatever its algorithm; `bits` becomes 256. A value shorter than 32 bytes stands
 /// at the start of `d`, and the bytes behind it stay. Returns 0, or -1, the record then untouched:
-/// the DER does not add up, an element is missing, the value is longer than 32 bytes, an argument
-/// is null.
+/// the DER, or that inside it, is no SEQUENCE or does not add up, an element is missing, the value
+/// is longer than 32 bytes, an argument is null.
 VELKORD_API int32_t ASN1_Der2EccPrikey(const uint8_t* der, uint32_t derLen, EccPrikey* key);
 
 /// @}
@@ -1234,7 +1255,8 @@ VELKORD_API int32_t ASN1_Der2EccPrikey(const uint8_t* der, uint32_t derLen, EccP
 // -------------------------------------------------------------------------------------------------
 /// @defgroup sm2 SM2
 /// The result is always 0. What cannot be done, an argument being null or the DER malformed, leaves
-/// all out arguments alone: preset the lengths to 0. Nothing is allocated.
+/// all out arguments alone: preset the lengths to 0. Nothing is allocated unless buffers overlap;
+/// a lack of memory then counts as what cannot be done.
 /// @{
 // -------------------------------------------------------------------------------------------------
 
@@ -1292,8 +1314,8 @@ VELKORD_API int32_t base64_decode(const char* text, uint8_t* out, uint32_t* outL
 /// whole zero-terminated lines without their line end; an empty one is left out. With B the size of
 /// the Base64 text, `out` needs B, 2 for each 64 characters of B or part of them, 2 and the text
 /// for each of header and footer that is not empty, and 1 more. No input gives `outLength` 0 and
-/// nothing written. Returns 0, or -1 when the text would not fit 32-bit lengths (`length` of 2^30
-/// or more).
+/// nothing written. Returns 0, or -1 for a `length` of 2^30 or more, and when header and footer
+/// make the text longer than 32 bits count.
 VELKORD_API int32_t DER2PEM_data_format(const uint8_t* der, uint32_t length, char* out,
                                         uint32_t* outLength, const char* header,
                                         const char* footer);

@@ -247,7 +247,7 @@ class ErrorCategory final : public std::error_category {
   [[nodiscard]] const char* name() const noexcept override { return "Velkord"; }
 
   /// The code's name in Velkord.h and its number, `VELKORD_WRONG_TAG (-7)`: what it tells depends
-  /// on the function, whose comment says it.
+  /// on the function, whose comment says it. -7000, which tells two things, says both in words.
   [[nodiscard]] std::string message(int code) const override {
     return std::string(CodeName(code)) + " (" + std::to_string(code) + ")";
   }
@@ -270,7 +270,7 @@ class ErrorCategory final : public std::error_category {
       case VELKORD_NULL_ARGUMENT:
         return "VELKORD_NULL_ARGUMENT";
       case VELKORD_OUT_OF_MEMORY:
-        return "VELKORD_OUT_OF_MEMORY";
+        return "VELKORD_OUT_OF_MEMORY: out of memory, or a time outside 1970 to 2038";
       default:
         return "unknown code";
     }

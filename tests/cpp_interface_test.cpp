@@ -220,7 +220,8 @@ TEST(Errors, NameEveryCode) {
       {VELKORD_BAD_TIME, "VELKORD_BAD_TIME (-5)"},
       {VELKORD_WRONG_TAG, "VELKORD_WRONG_TAG (-7)"},
       {VELKORD_NULL_ARGUMENT, "VELKORD_NULL_ARGUMENT (-8)"},
-      {VELKORD_OUT_OF_MEMORY, "VELKORD_OUT_OF_MEMORY (-7000)"},
+      {VELKORD_OUT_OF_MEMORY,
+       "VELKORD_OUT_OF_MEMORY: out of memory, or a time outside 1970 to 2038 (-7000)"},
       {-3, "unknown code (-3)"},
   };
   for (const auto& [code, message] : kMessages) {

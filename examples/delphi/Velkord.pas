@@ -15,10 +15,11 @@ const
 // ==== Return codes. What functions return.
   // Success.
   VELKORD_OK = 0;
-  // A length of more than 4 subsequent octets; an element that overruns its parent or is missing
-  // from it; out of memory for a node; whatever a function of RSA or EC keys refuses.
+  // A length of more than 4 subsequent octets; a child that overruns its parent, has the indefinite
+  // length or is missing; out of memory for a node; all that a function of EC keys refuses, and of
+  // RSA keys all that is not -2 or -7.
   VELKORD_FAILURE = -1;
-  // Tag, length and content do not add up to the bytes given.
+  // Tag, length and content do not add up to the bytes given, or the length is indefinite.
   VELKORD_SIZE_MISMATCH = -2;
   // A time value below 0.
   VELKORD_NEGATIVE_TIME = -4;
@@ -28,7 +29,7 @@ const
   VELKORD_WRONG_TAG = -7;
   // A null argument, or a required field that was never set.
   VELKORD_NULL_ARGUMENT = -8;
-  // Out of memory for a record; a time the platform refuses.
+  // Out of memory for a record; or a time outside 1970 to 2038.
   VELKORD_OUT_OF_MEMORY = -7000;
 
 // ==== Records. What functions fill and read, field by field.
@@ -413,7 +414,8 @@ function ASN1_WriteBitStringFromDERBytes(ABytes: PByte; ALength: Cardinal;
 function ASN1_WriteBoolean(AValue: PByte; var AOut: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_WriteBoolean';
 
-// Gives the first content octet of a TLV node of any type.
+// Gives the first content octet of a TLV node of any type as it stands: that of a BIT STRING is its
+// unused-bits octet.
 function ASN1_ReadBoolean(ASource: PAnybuf; AValue: PByte): Integer;
   cdecl; external VelkordLibrary name 'ASN1_ReadBoolean';
 
@@ -1078,7 +1080,8 @@ function ASN1_PKCS7_WriteData(ARecord: PPKCS7Context; var AOut: PAnybuf): Intege
 function ASN1_PKCS7_Decode(ABytes: PByte; ALength: Cardinal; var AOut: PPKCS7Context): Integer;
   cdecl; external VelkordLibrary name 'ASN1_PKCS7_Decode';
 
-// ==== RSA keys. A null argument gives -1, and nothing is allocated.
+// ==== RSA keys. A null argument gives -1. Nothing is allocated unless record and DER overlap; then
+// ==== a lack of memory gives -1 and changes nothing.
 
 // Writes the DER of a key to `der` and its size to `derLen`: RSAPublicKey, at most 526 bytes, or
 // RSAPrivateKey of PKCS#1, at most 1450.
@@ -1112,7 +1115,8 @@ function ASN1_Der2EccPrikey(ADer: PByte; ADerLen: Cardinal; AKey: PEccPrikey): I
   cdecl; external VelkordLibrary name 'ASN1_Der2EccPrikey';
 
 // ==== SM2. The result is always 0. What cannot be done, an argument being null or the DER
-// ==== malformed, leaves all out arguments alone: preset the lengths to 0. Nothing is allocated.
+// ==== malformed, leaves all out arguments alone: preset the lengths to 0. Nothing is allocated
+// ==== unless buffers overlap; a lack of memory then counts as what cannot be done.
 
 // Writes the SEQUENCE of two positive INTEGERs to `der`, which needs room for both numbers and 20
 // bytes more.

@@ -21,6 +21,8 @@ import weakref
 import velkord_api
 
 CODES = {code: name for name, code in vars(velkord_api).items() if name.startswith("VELKORD_")}
+# The one code whose name tells half of it.
+CODES[velkord_api.VELKORD_OUT_OF_MEMORY] += ": out of memory, or a time outside 1970 to 2038"
 
 # No function writes more than twice what it reads, but for what surrounds it and for the numbers of
 # a key, which are less than this.

@@ -6,10 +6,11 @@ from ctypes import Structure, c_char, c_char_p, c_int32, c_size_t, c_uint32, c_u
 
 # Success.
 VELKORD_OK = 0
-# A length of more than 4 subsequent octets; an element that overruns its parent or is missing from
-# it; out of memory for a node; whatever a function of RSA or EC keys refuses.
+# A length of more than 4 subsequent octets; a child that overruns its parent, has the indefinite
+# length or is missing; out of memory for a node; all that a function of EC keys refuses, and of RSA
+# keys all that is not -2 or -7.
 VELKORD_FAILURE = -1
-# Tag, length and content do not add up to the bytes given.
+# Tag, length and content do not add up to the bytes given, or the length is indefinite.
 VELKORD_SIZE_MISMATCH = -2
 # A time value below 0.
 VELKORD_NEGATIVE_TIME = -4
@@ -19,7 +20,7 @@ VELKORD_BAD_TIME = -5
 VELKORD_WRONG_TAG = -7
 # A null argument, or a required field that was never set.
 VELKORD_NULL_ARGUMENT = -8
-# Out of memory for a record; a time the platform refuses.
+# Out of memory for a record; or a time outside 1970 to 2038.
 VELKORD_OUT_OF_MEMORY = -7000
 
 
@@ -359,7 +360,8 @@ FUNCTIONS = {
         out=P(P(Anybuf))),
     # Makes the TLV node of a BOOLEAN with the byte at `value` unchanged.
     "ASN1_WriteBoolean": _of(c_int32, value=c_char_p, out=P(P(Anybuf))),
-    # Gives the first content octet of a TLV node of any type.
+    # Gives the first content octet of a TLV node of any type as it stands: that of a BIT STRING is
+    # its unused-bits octet.
     "ASN1_ReadBoolean": _of(c_int32, source=P(Anybuf), value=P(c_uint8)),
     # Makes the TLV node of a NULL.
     "ASN1_WriteNull": _of(c_int32, out=P(P(Anybuf))),
@@ -708,7 +710,8 @@ FUNCTIONS = {
     "ASN1_PKCS7_WriteData": _of(c_int32, record=P(PKCS7Context), out=P(P(Anybuf))),
     # Decodes the DER of one ContentInfo of exactly `length` bytes into a new record.
     "ASN1_PKCS7_Decode": _of(c_int32, bytes=c_char_p, length=c_uint32, out=P(P(PKCS7Context))),
-    # ==== RSA keys. A null argument gives -1, and nothing is allocated.
+    # ==== RSA keys. A null argument gives -1. Nothing is allocated unless record and DER overlap;
+    # ==== then a lack of memory gives -1 and changes nothing.
     # Writes the DER of a key to `der` and its size to `derLen`: RSAPublicKey, at most 526 bytes, or
     # RSAPrivateKey of PKCS#1, at most 1450.
     "ZantEncodePublicKey": _of(c_int32, key=P(ZantPublicKey), der=P(c_uint8), derLen=P(c_uint32)),
@@ -726,7 +729,8 @@ FUNCTIONS = {
     # `derLen` bytes, whatever its algorithm; `bits` becomes 256.
     "ASN1_Der2EccPrikey": _of(c_int32, der=c_char_p, derLen=c_uint32, key=P(EccPrikey)),
     # ==== SM2. The result is always 0. What cannot be done, an argument being null or the DER
-    # ==== malformed, leaves all out arguments alone: preset the lengths to 0. Nothing is allocated.
+    # ==== malformed, leaves all out arguments alone: preset the lengths to 0. Nothing is allocated
+    # ==== unless buffers overlap; a lack of memory then counts as what cannot be done.
     # Writes the SEQUENCE of two positive INTEGERs to `der`, which needs room for both numbers and
     # 20 bytes more.
     "ASN1_SM2_SM2SignatureEncode": _of(c_int32, r=c_char_p, rLen=c_uint32, s=c_char_p,
