@@ -86,6 +86,13 @@ TEST(Keys, WipeWhatTheyHoldInPlace) {
   EXPECT_EQ(watch.requests, 1U);
   EXPECT_EQ(std::count(watch.released.begin(), watch.released.end(), 0x55), 0);
 
+  // A number of no bytes overlaps nothing.
+  const auto encodeOne = [&] {
+    return ASN1_SM2_SM2SignatureEncode(&bytes[40], 20, &bytes[10], 0, bytes.data(), &size);
+  };
+  EXPECT_EQ(Watched(0, encodeOne), 0);
+  EXPECT_EQ(watch.requests, 0U);
+
   // The second number is kept while the first is written.
   bytes = FromHex("30 08 02 02 11 22 02 02 55 55");
   const auto decode = [&] {

@@ -128,6 +128,14 @@ TEST(InPlace, Sm2SignaturesAndPoints) {
                       ASN1_SM2_PubkeyDecode(out + 4, sizes, out, sizes + 1, in, 12);
                       return Both(out + 4, sizes[0], out, sizes[1]);
                     });
+
+  // The length of the first number may lie over the second one.
+  alignas(uint32_t)
+      uint8_t der[] = {0x30, 0x08, 0x02, 0x02, 0x11, 0x22, 0x02, 0x02, 0x33, 0x44, 0x00, 0x00};
+  uint8_t read[4];
+  uint32_t size = 0;
+  ASN1_SM2_SM2SignatureDecode(read, reinterpret_cast<uint32_t*>(der + 8), read + 2, &size, der, 10);
+  EXPECT_EQ(ToHex(read, sizeof read), "11 22 33 44");
 }
 
 }  // namespace
