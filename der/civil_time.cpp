@@ -20,7 +20,8 @@ int64_t CivilSeconds(const std::tm& fields) {
   const uint32_t daysToYear = year * 365 + year / 4 - year / 100 + year / 400;
   const uint32_t daysToMonth = (months % 12 * 153 + 2) / 5;
   const int64_t days = int64_t{daysToYear + daysToMonth} - kDaysTo1970 + fields.tm_mday - 1;
-  return days * kSecondsOfDay + fields.tm_hour * 3600 + fields.tm_min * 60 + fields.tm_sec;
+  const int64_t minutes = int64_t{fields.tm_hour} * 60 + fields.tm_min;
+  return days * kSecondsOfDay + minutes * 60 + fields.tm_sec;
 }
 
 // The zone's offset from UTC at the time nearest to `time` that there is, and its fields there.
@@ -44,7 +45,7 @@ bool FromLocalTime(std::tm& fields, int32_t& seconds) {
   if (!OffsetAt(time, offset, fields)) return false;
   if (offset != before) {
     // The offset has changed between the two, unless the hour is one that was skipped.
-    std::tm changed;
+    std::tm changed{};
     int64_t last;
     if (!OffsetAt(civil - offset, last, changed)) return false;
     if (last == offset) {

@@ -50,7 +50,6 @@ int32_t ReadText(const DerElement& element, std::tm& fields, int32_t& time) {
   TwoDigits numbers(text);
   const int century = hasCentury ? numbers.Next() * 100 - kYearBase : 0;
   const int year = numbers.Next();
-  fields = {};
   fields.tm_year = century + year + (!hasCentury && year < kFirstUtcTimeYear ? 100 : 0);
   fields.tm_mon = numbers.Next() - 1;
   fields.tm_mday = numbers.Next();
@@ -90,7 +89,7 @@ int32_t MakeNode(const TimeElement& element, uint8_t tag, Anybuf** out) {
 }
 
 int32_t Rewrite(const DerElement& element, uint8_t form, Anybuf** out) {
-  std::tm fields;
+  std::tm fields{};
   int32_t time;
   VELKORD_TRY(ReadText(element, fields, time));
   TimeElement written;
@@ -102,7 +101,7 @@ int32_t Rewrite(const DerElement& element, uint8_t form, Anybuf** out) {
 
 int32_t TimeElement::Set(int32_t time, uint8_t tag) {
   if (time < 0) return VELKORD_NEGATIVE_TIME;
-  std::tm fields;
+  std::tm fields{};
   FollowZone();
   if (!LocalFields(time, fields)) return VELKORD_OUT_OF_MEMORY;
   Set(fields, tag);
@@ -126,14 +125,8 @@ void TimeElement::Set(const std::tm& fields, uint8_t tag) {
   size_ = static_cast<size_t>(end - octets_);
 }
 
-int32_t TimeWriteNode(int32_t time, uint8_t tag, Anybuf** out) {
-  TimeElement element;
-  VELKORD_TRY(element.Set(time, tag));
-  return MakeNode(element, tag, out);
-}
-
 int32_t TimeRead(const DerElement& element, int32_t& time) {
-  std::tm fields;
+  std::tm fields{};
   return ReadText(element, fields, time);
 }
 
@@ -164,7 +157,9 @@ namespace {
 
 int32_t WriteTime(const int32_t* time, uint8_t tag, Anybuf** out) {
   if (time == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
-  return TimeWriteNode(*time, tag, out);
+  TimeElement element;
+  VELKORD_TRY(element.Set(*time, tag));
+  return MakeNode(element, tag, out);
 }
 
 int32_t ReadTime(const Anybuf* source, uint8_t form, int32_t* time) {

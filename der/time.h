@@ -24,10 +24,6 @@ class TimeElement {
   size_t size_ = 0;
 };
 
-// Makes a time TLV node in the form of `tag`, UTCTime or GeneralizedTime.
-// 0, -4 for a negative time, or -7000.
-int32_t TimeWriteNode(int32_t time, uint8_t tag, Anybuf** out);
-
 // Reads a time in the form that its tag gives, UTCTime for any but GeneralizedTime. All bytes
 // behind the header are its text. 0, -5, or -7000.
 int32_t TimeRead(const DerElement& element, int32_t& time);

@@ -57,7 +57,8 @@ int32_t OpenChild(Bytes in, uint32_t place, Bytes& content) {
 
 int32_t ASN1_EccPubkey2Der(const EccPubkey* key, uint8_t* der, uint32_t* derLen) {
   if (key == nullptr || der == nullptr || derLen == nullptr) return VELKORD_FAILURE;
-  const Bytes coordinates(reinterpret_cast<const uint8_t*>(key) + kCoordinates, kCoordinatesSize);
+  const auto* record = static_cast<const uint8_t*>(static_cast<const void*>(key));
+  const Bytes coordinates(record + kCoordinates, kCoordinatesSize);
   CopyOut(coordinates, der + kPublicKeyStart.size());
   Put(der, kPublicKeyStart);
   *derLen = kPublicKeyStart.size() + kCoordinatesSize;
@@ -70,7 +71,8 @@ int32_t ASN1_Der2EccPubkey(const uint8_t* der, uint32_t derLen, EccPubkey* key) 
       point.size() < 1 + kCoordinatesSize) {
     return VELKORD_FAILURE;
   }
-  CopyOut(point.subspan(1, kCoordinatesSize), reinterpret_cast<uint8_t*>(key) + kCoordinates);
+  auto* record = static_cast<uint8_t*>(static_cast<void*>(key));
+  CopyOut(point.subspan(1, kCoordinatesSize), record + kCoordinates);
   key->bits = kBits;
   return VELKORD_OK;
 }

@@ -25,7 +25,7 @@ void WriteElement(const DerHeader& header, std::initializer_list<Bytes> parts, u
 // Gives two parts of an input, of which the second must not be lost to the first.
 void CopyOutBoth(Bytes first, uint8_t* out, uint32_t* outLen, Bytes second, uint8_t* secondOut,
                  uint32_t* secondOutLen) {
-  const auto* length = reinterpret_cast<const uint8_t*>(outLen);
+  const auto* length = static_cast<const uint8_t*>(static_cast<const void*>(outLen));
   Scratch scratch;
   if (KeepInput(second, {Bytes(out, first.size()), Bytes(length, sizeof *outLen)}, scratch) !=
       VELKORD_OK) {

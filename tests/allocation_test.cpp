@@ -116,7 +116,7 @@ TEST(Decoding, ACutOffElementGoesFirst) {
   for (const std::string third : {"30", "31"}) {
     const ByteVector bytes =
         FromHex("30 11 A0 00 02 00 " + third + " 00 30 00 30 00 30 00 30 00 04 02 00");
-    for (const size_t failing : {0, 1}) {
+    for (const size_t failing : {0U, 1U}) {
       TBSCertificate* record = nullptr;
       const auto decode = [&] { return DecodeTbsCertificate(bytes.data(), Size(bytes), &record); };
       EXPECT_EQ(Watched(failing, decode), -1) << third << " " << failing;

@@ -48,7 +48,7 @@ void ExpectSet(size_t field, const std::string& value, const std::vector<Setter>
                const std::vector<Kind>& kinds) {
   const NodePtr node = ToNode(value);
   for (const Kind& kind : kinds) {
-    const Fields record = kind.create();
+    Fields record = kind.create();
     for (const Setter& set : setters) EXPECT_EQ(set(record, node.get()), 0);
     EXPECT_EQ(ToHex(record[field]->data, record[field]->dataLen), value);
     kind.release(record);
@@ -85,8 +85,8 @@ TEST(SharedFunctions, WriteEveryRecord) {
                                        Named(ASN1_CRL_CertificateListWriteData),
                                        Named(ASN1_PKCS10RequestWriteData)};
   for (const Kind& kind : {kCertificate, kList, kRequest, kOtherRequest}) {
-    const Fields record = kind.create();
-    for (const size_t field : {0, 1, 2}) record[field] = ToNode("30 00").release();
+    Fields record = kind.create();
+    for (size_t field = 0; field < 3; ++field) record[field] = ToNode("30 00").release();
     for (const Writer& write : writers) {
       Anybuf* node = nullptr;
       EXPECT_EQ(write(record, &node), 0);
