@@ -37,14 +37,15 @@ bool OffsetAt(int64_t time, int64_t& offset, std::tm& fields) {
 bool FromLocalTime(std::tm& fields, int32_t& seconds) {
   FollowZone();
   const int64_t civil = CivilSeconds(fields);
-  // No offset reaches two days, and no zone changes its offset twice in so short a time.
+  const int second = fields.tm_sec;
+  // No offset reaches two days, and no zone of the tz database has two changes in two days.
   int64_t before;
   int64_t offset;
   if (!OffsetAt(civil - 2 * kSecondsOfDay, before, fields)) return false;
   int64_t time = civil - before;
   if (!OffsetAt(time, offset, fields)) return false;
   if (offset != before) {
-    // The offset has changed between the two, unless the hour is one that was skipped.
+    // It has changed meanwhile, and the new offset holds unless the hour was skipped.
     std::tm changed{};
     int64_t last;
     if (!OffsetAt(civil - offset, last, changed)) return false;
@@ -53,6 +54,8 @@ bool FromLocalTime(std::tm& fields, int32_t& seconds) {
       fields = changed;
     }
   }
+  // A zone that counts leap seconds shows the second 60 in front of the one that was meant.
+  if (fields.tm_sec > 59 && second < 60 && !OffsetAt(++time, offset, fields)) return false;
   if (time < 0 || time > INT32_MAX) return false;
   seconds = static_cast<int32_t>(time);
   return true;

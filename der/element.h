@@ -139,7 +139,7 @@ class DerElements {
   int32_t OpenUnchecked(Bytes in, uint32_t type);
   void OpenUnchecked(Bytes content) { rest_ = content; }
   int32_t Finish(int32_t code) const {
-    return DerCheckChildren(rest_) == VELKORD_OK ? code : VELKORD_FAILURE;
+    return AtEnd() || DerCheckChildren(rest_) == VELKORD_OK ? code : VELKORD_FAILURE;
   }
 
   bool AtEnd() const { return rest_.empty(); }

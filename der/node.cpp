@@ -151,11 +151,12 @@ int32_t DerRetag(uint8_t tag, const DerElement& element, Anybuf** out) {
 }
 
 int32_t DerRewrite(uint8_t tag, const DerElement& element, Anybuf** out) {
-  // Mostly there is no such octet, or an INTEGER has the very one that it would be given.
-  const Bytes whole = element.Content();
+  // Without such an octet on either side, and for an INTEGER that keeps its own, the content is
+  // copied as it stands.
+  const Bytes raw = element.Content();
   const auto hasOctet = [](uint32_t type) { return type == kBitString || type == kInteger; };
   const bool isPlain = !hasOctet(tag) && !hasOctet(element.tag);
-  const bool isInteger = tag == kInteger && element.tag == tag && !whole.empty() && whole[0] < 0x80;
+  const bool isInteger = tag == kInteger && element.tag == tag && !raw.empty() && raw[0] < 0x80;
   if (isPlain || isInteger) return DerRetag(tag, element, out);
   Bytes content;
   VELKORD_TRY(DerOpenContent(element, content));

@@ -164,7 +164,8 @@ int32_t DerRewrite(uint8_t tag, const DerElement& element, Anybuf** out);
 int32_t DerRewrap(uint8_t tag, Bytes in, Anybuf** out);
 int32_t DerRewrap(uint8_t tag, const DerElement& element, Anybuf** out);
 
-// The next child of an opened element, a SEQUENCE, as such. 0, -1 when there is none, -2 or -7.
+// Makes the same node of the next child of an opened element, a SEQUENCE. 0, -1 (also when there is
+// none) or -7.
 int32_t DerRewrapNext(DerElements& children, Anybuf** out);
 
 // The children of an opened element as a chain of TLV nodes, null when there are none.

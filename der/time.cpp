@@ -13,14 +13,15 @@ constexpr int kYearBase = 1900;
 constexpr int kFirstUtcTimeYear = 70;
 constexpr size_t kMonthToSecondDigits = 10;
 
-// Numbers of two digits each, read from a text that is long enough.
+// Numbers of two digits each, read from the front of a text that is long enough.
 class TwoDigits {
  public:
-  explicit TwoDigits(Bytes text) : at_(text.data()) {}
+  explicit TwoDigits(Bytes text) : text_(text) {}
 
   int Next() {
-    const uint32_t tens = *at_++ - uint32_t{'0'};
-    const uint32_t ones = *at_++ - uint32_t{'0'};
+    const uint32_t tens = text_[0] - uint32_t{'0'};
+    const uint32_t ones = text_[1] - uint32_t{'0'};
+    text_ = text_.subspan(2);
     areDigits_ &= tens < 10 && ones < 10;
     return static_cast<int>(tens * 10 + ones);
   }
@@ -29,7 +30,7 @@ class TwoDigits {
   bool AreDigits() const { return areDigits_; }
 
  private:
-  const uint8_t* at_;
+  Bytes text_;
   bool areDigits_ = true;
 };
 

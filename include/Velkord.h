@@ -14,7 +14,7 @@
 ///
 /// **Lengths.** Reading takes lengths of up to four octets behind the one that counts them, in
 /// shortest form or not. The indefinite length (80) is refused, with -2 for the element that a
-/// function was given and with -1 for one inside it.
+/// function opens and with -1 for a child of it.
 ///
 /// **Ownership.** Inputs are copied and stay the caller's; the one exception is
 /// `ASN1_SetAlgorithmIdentifier`. What a function hands out is new, and the caller releases it with
@@ -840,12 +840,14 @@ VELKORD_API int32_t ASN1_TBSCertificateWriteData(const TBSCertificate* record, A
 
 /// Decodes a TBSCertificate TLV node into a new record. The first element is always taken for the
 /// version; `version` stays 0. Optional elements are told by the low five bits of their tags, in
-/// any order; of several of one kind the last counts, and all others are passed over. The
-/// unused-bits octets of the identifiers are derived anew (the one that stood in `[2]` stays in its
-/// content), and `extensions` holds a SEQUENCE around the list: what is written again is not what
-/// was signed. Free with `ASN1_FreeTBSCertificate`. Returns 0, -1 (also fewer than seven elements),
-/// -2 (also an identifier `81 00`, `A1 00` or `A2 00`), -7 (it or one of elements 3 to 7 is no
-/// SEQUENCE), -7000 (memory) or -8.
+/// any order; of several of one kind the last counts, though each must open, and elements of other
+/// tags are passed over. The unused-bits octets of the identifiers are derived anew (the one that
+/// stood in
+/// `[2]` stays in its content), and `extensions` holds a SEQUENCE around the list: what is written
+/// again is not what was signed. Free with `ASN1_FreeTBSCertificate`.
+/// Returns 0, -1 (also fewer than seven elements), -2 (also an identifier without content that is
+/// constructed or of an odd tag, such as `A1 00`, `A2 00` and `81 00`, and any BIT STRING without
+/// content), -7 (it or one of elements 3 to 7 is no SEQUENCE), -7000 (memory) or -8.
 VELKORD_API int32_t ASN1_TBSCertificateDecode(const Anybuf* source, TBSCertificate** out);
 
 /// @}
@@ -1107,9 +1109,9 @@ VELKORD_API int32_t ASN1_PKCS10WriteData(const PKCS10* record, Anybuf** out);
 /// Decodes the DER of one signed part of exactly `length` bytes into a new record. The first
 /// element is read as a number and written again; the other nodes have their lengths in shortest
 /// form. The attributes may be missing, and such a record can be written only after they are set;
-/// they come back constructed under the tag number of their element, of which a tag of several
-/// octets leaves 31 alone (BF). An element that is not a constructed context or private one loses
-/// its first content octet when its tag is odd. Elements behind them are passed over. Free with
+/// they come back constructed under the tag number of their element, or under the one octet BF for
+/// a tag of several octets. An element that is not a constructed context or private one loses its
+/// first content octet when its tag is odd. Elements behind them are passed over. Free with
 /// `ASN1_FreePKCS10`.
 /// Returns 0, -1 (also fewer than three elements), -2, -7 (it or one of elements 2 and 3 is no
 /// SEQUENCE), -7000 (memory) or -8 (also null bytes of length 0).

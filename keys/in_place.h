@@ -3,8 +3,8 @@
 #ifndef VELKORD_KEYS_IN_PLACE_H_
 #define VELKORD_KEYS_IN_PLACE_H_
 
-#include <initializer_list>
-#include <span>
+#include <algorithm>
+#include <functional>
 
 #include "der/node.h"
 
@@ -14,32 +14,48 @@ namespace velkord {
 class Scratch {
  public:
   Scratch() = default;
-  ~Scratch();
+  ~Scratch() {
+    if (bytes_ != nullptr) WipeAndRelease();
+  }
   Scratch(const Scratch&) = delete;
   Scratch& operator=(const Scratch&) = delete;
 
   // Gives the block, or null when there is no memory for it.
   uint8_t* Allocate(size_t size);
+  // Makes `in` a view of a copy of it. 0, or -1 when there is no memory for that.
+  int32_t Hold(Bytes& in);
 
  private:
+  void WipeAndRelease();
+
   uint8_t* bytes_ = nullptr;
   size_t size_ = 0;
 };
 
-bool Overlap(Bytes bytes, std::span<const Bytes> others);
+// Whether two runs of bytes have a byte in common.
+inline bool Overlap(Bytes one, Bytes other) {
+  // Of pointers into different blocks only this tells which is the lower one.
+  const std::less<const uint8_t*> isBelow;
+  return !one.empty() && !other.empty() && isBelow(one.data(), other.data() + other.size()) &&
+         isBelow(other.data(), one.data() + one.size());
+}
 
 // Keeps an input readable while `outs` are written: where one of them lies over it, `in` becomes a
 // copy in `scratch`. 0, or -1 when there is no memory for that.
-int32_t KeepInput(Bytes& in, std::initializer_list<Bytes> outs, Scratch& scratch);
+template <typename... Outs>
+int32_t KeepInput(Bytes& in, Scratch& scratch, Outs... outs) {
+  return (Overlap(in, outs) || ...) ? scratch.Hold(in) : VELKORD_OK;
+}
 
 // Has `write` write `size` bytes, made of `inputs`, to the place that it is given: `out`, or a
 // block that is copied there where `out` lies over an input. 0, or -1 when there is no memory for
 // that.
-template <typename Write>
-int32_t WriteInPlace(std::span<const Bytes> inputs, uint8_t* out, size_t size, Write write) {
+template <typename Inputs, typename Write>
+int32_t WriteInPlace(const Inputs& inputs, uint8_t* out, size_t size, Write write) {
   Scratch scratch;
   uint8_t* place = out;
-  if (Overlap(Bytes(out, size), inputs)) place = scratch.Allocate(size);
+  const auto isWrittenOver = [=](Bytes in) { return Overlap(in, Bytes(out, size)); };
+  if (std::any_of(inputs.begin(), inputs.end(), isWrittenOver)) place = scratch.Allocate(size);
   if (place == nullptr) return VELKORD_FAILURE;
   write(place);
   if (place != out) Put(out, Bytes(place, size));

@@ -45,7 +45,7 @@ int32_t ClearAndOpen(Key* key, const uint8_t* der, int32_t derLen, Scratch& scra
                      DerElements& elements) {
   if (key == nullptr || der == nullptr || derLen <= 0) return VELKORD_FAILURE;
   Bytes in(der, static_cast<size_t>(derLen));
-  VELKORD_TRY(KeepInput(in, {Bytes(key->modulus, sizeof *key)}, scratch));
+  VELKORD_TRY(KeepInput(in, scratch, Bytes(key->modulus, sizeof *key)));
   *key = Key{};
   return elements.Open(in, kSequenceType);
 }

@@ -19,7 +19,7 @@ void WriteElement(const DerHeader& header, std::initializer_list<Bytes> parts, u
     place = header.Put(place);
     for (const Bytes part : parts) place = Put(place, part);
   };
-  if (WriteInPlace({parts.begin(), parts.size()}, der, size, write) == VELKORD_OK) *derLen = size;
+  if (WriteInPlace(parts, der, size, write) == VELKORD_OK) *derLen = size;
 }
 
 // Gives two parts of an input, of which the second must not be lost to the first.
@@ -27,7 +27,7 @@ void CopyOutBoth(Bytes first, uint8_t* out, uint32_t* outLen, Bytes second, uint
                  uint32_t* secondOutLen) {
   const auto* length = static_cast<const uint8_t*>(static_cast<const void*>(outLen));
   Scratch scratch;
-  if (KeepInput(second, {Bytes(out, first.size()), Bytes(length, sizeof *outLen)}, scratch) !=
+  if (KeepInput(second, scratch, Bytes(out, first.size()), Bytes(length, sizeof *outLen)) !=
       VELKORD_OK) {
     return;
   }
@@ -39,9 +39,10 @@ int32_t OpenSignature(const uint8_t* der, uint32_t derLen, Bytes& r, Bytes& s) {
   Bytes in;
   VELKORD_TRY(CallerBytes(der, derLen, in));
   DerElements elements;
-  VELKORD_TRY(elements.Open(in, kSequenceType));
+  VELKORD_TRY(elements.OpenUnchecked(in, kSequenceType));
   VELKORD_TRY(DerNextContent(elements, r));
-  return DerNextContent(elements, s);
+  VELKORD_TRY(DerNextContent(elements, s));
+  return elements.Finish(VELKORD_OK);
 }
 
 int32_t OpenValue(const uint8_t* der, uint32_t derLen, Bytes& content) {
@@ -78,9 +79,16 @@ int32_t ASN1_SM2_SM2SignatureDecode(uint8_t* r, uint32_t* rLen, uint8_t* s, uint
 int32_t ASN1_SM2_PrikeyEncode(const uint8_t* value, uint32_t valueLen, uint8_t* der,
                               uint32_t* derLen) {
   Bytes number;
-  if (der != nullptr && derLen != nullptr && CallerBytes(value, valueLen, number) == VELKORD_OK) {
-    WriteElement(DerHeader::For(kInteger, number), {number}, der, derLen);
+  if (der == nullptr || derLen == nullptr || CallerBytes(value, valueLen, number) != VELKORD_OK) {
+    return VELKORD_OK;
   }
+  const DerHeader header = DerHeader::For(kInteger, number);
+  if (header.Total() > UINT32_MAX) return VELKORD_OK;
+  // One move, and then the header in front, so that `der` may lie over the value.
+  const auto size = static_cast<uint32_t>(header.Total());
+  CopyOut(number, der + (size - number.size()));
+  header.Put(der);
+  *derLen = size;
   return VELKORD_OK;
 }
 

@@ -6,6 +6,7 @@
 #include <set>
 
 #include "calls.h"
+#include "cases.h"
 #include "watched_allocator.h"
 
 namespace {
@@ -109,6 +110,19 @@ TEST(Keys, WipeWhatTheyHoldInPlace) {
   EXPECT_EQ(Watched(1, [&] { return ZantDecodePublicKey(key, bytes.data(), 20); }), -1);
   EXPECT_EQ(Watched(1, [&] { return ZantEncodePublicKey(key, bytes.data(), &size); }), -1);
   EXPECT_EQ(bytes, before);
+}
+
+// Without TZ the C library would ask the system at every call.
+TEST(Time, ReadsTheZoneOnlyWhileTzIsSet) {
+  const NodePtr node = ToNode("17 0D \"230101000000Z\"");
+  int32_t time = 0;
+  const auto read = [&] { return ASN1_ReadUtcTime(node.get(), &time); };
+  SetZone("UTC0");
+  EXPECT_EQ(Watched(0, read), 0);
+  EXPECT_EQ(watch.zoneReads, 1U);
+  unsetenv("TZ");
+  EXPECT_EQ(Watched(0, read), 0);
+  EXPECT_EQ(watch.zoneReads, 0U);
 }
 
 // A child that does not fit goes before a wrong tag in front of it, and before a lack of memory.

@@ -82,6 +82,20 @@ TEST_P(Zones, ReadWhatTheyWrite) {
   SetZone("UTC0");
 }
 
+// The second 60 and the one behind it are two.
+TEST(LeapSeconds, AreSecondsOfTheirOwn) {
+  SetZone("right/UTC");
+  constexpr int32_t kLeapSecond = 1483228826;
+  const std::string text = Write(kLeapSecond);
+  SetZone("UTC0");
+  if (text != "20161231235960Z") GTEST_SKIP() << "no such zone here";
+  SetZone("right/UTC");
+  for (int32_t time = kLeapSecond - 1; time <= kLeapSecond + 1; ++time) {
+    EXPECT_EQ(Read(Write(time)), time);
+  }
+  SetZone("UTC0");
+}
+
 INSTANTIATE_TEST_SUITE_P(, Zones,
                          testing::Values("", "UTC", "Asia/Shanghai", "America/New_York",
                                          "Europe/Dublin", "Australia/Lord_Howe",

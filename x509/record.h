@@ -91,20 +91,7 @@ inline Field OptionalField(uint32_t flag, const Anybuf* node) {
 }
 
 // Makes the SEQUENCE of a record's fields. 0, -1, or -8 when a field is not set.
-inline int32_t JoinFields(std::initializer_list<Field> fields, Anybuf** out) {
-  // The loops stand here, not in DerJoinEach: through its visitor a record takes a third longer.
-  uint64_t length = 0;
-  for (const Field& field : fields) {
-    if (!field.set) return VELKORD_NULL_ARGUMENT;
-    length += field.bytes.size();
-  }
-  Anybuf* node;
-  uint8_t* place;
-  VELKORD_TRY(DerBuildHeader(DerHeader(kSequence, length), &node, place));
-  for (const Field& field : fields) place = Put(place, field.bytes);
-  *out = node;
-  return VELKORD_OK;
-}
+int32_t JoinFields(std::initializer_list<Field> fields, Anybuf** out);
 
 // Makes a record that `fill` fills, and when that fails nothing is left. 0, -7000, or the code of
 // `fill`.

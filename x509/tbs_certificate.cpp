@@ -23,8 +23,8 @@ int32_t SetUniqueId(TBSCertificate* record, FieldPointer field, uint32_t TBSCert
   });
 }
 
-// The optional elements by their tag numbers, empty where there is none; the first takes all
-// others.
+// The optional elements by their tag numbers, empty where there is none. Number 0 takes those of
+// any other tag, which nobody reads.
 constexpr size_t kTagNumbers = kExtensionsTag + 1;
 using Optionals = std::array<DerElement, kTagNumbers>;
 
