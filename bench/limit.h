@@ -4,9 +4,11 @@
 #define VELKORD_BENCH_LIMIT_H_
 
 #include <array>
+#include <chrono>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
+#include <ctime>
 #include <span>
 
 #include "Velkord.h"
@@ -68,6 +70,21 @@ Object* Allocate(size_t size = sizeof(Object)) {
   // Without this a compiler may leave out the pair of malloc and free.
   benchmark::DoNotOptimize(object);
   return object;
+}
+
+// The time of a UTCTime of this century, as if it were UTC.
+inline std::time_t ReadUtcTime(Bytes text) {
+  namespace chrono = std::chrono;
+  const auto digits = [&](size_t at) { return (text[at] - '0') * 10 + text[at + 1] - '0'; };
+  const chrono::sys_days day = chrono::year(2000 + digits(0)) / digits(2) / digits(4);
+  return day.time_since_epoch() / chrono::seconds(1) + digits(6) * 3600 + digits(8) * 60 +
+         digits(10);
+}
+
+// One look at the zone.
+inline void LookUpLocalTime(std::time_t time) {
+  std::tm fields;
+  benchmark::DoNotOptimize(localtime_r(&time, &fields));
 }
 
 // A node with a block to fill.

@@ -1,6 +1,5 @@
 // Revocation lists split, decoded and built.
 #include <algorithm>
-#include <chrono>
 #include <ctime>
 #include <iterator>
 #include <memory>
@@ -96,19 +95,8 @@ void FreeVelkord(const Decoded& decoded) {
 // there, and whether it has changed lately.
 void LookUpTwice(std::time_t time) {
   constexpr std::time_t kTwoDays = 2 * 86400;
-  std::tm fields;
-  for (const std::time_t at : {time, time - kTwoDays}) {
-    benchmark::DoNotOptimize(localtime_r(&at, &fields));
-  }
-}
-
-// The time of a UTCTime of this century, as if it were UTC.
-std::time_t DateLimit(Bytes text) {
-  namespace chrono = std::chrono;
-  const auto digits = [&](size_t at) { return (text[at] - '0') * 10 + text[at + 1] - '0'; };
-  const chrono::sys_days day = chrono::year(2000 + digits(0)) / digits(2) / digits(4);
-  return day.time_since_epoch() / chrono::seconds(1) + digits(6) * 3600 + digits(8) * 60 +
-         digits(10);
+  LookUpLocalTime(time);
+  LookUpLocalTime(time - kTwoDays);
 }
 
 RevokedCertificate* DecodeEntryLimit(Bytes bytes) {
@@ -123,7 +111,7 @@ RevokedCertificate* DecodeEntryLimit(Bytes bytes) {
   const bool hasExtensions = !rest.empty();
   Require(!hasExtensions || (TakeElement(rest, extensions) && IsFilledSequence(extensions)),
           "the limit reads an entry's extensions");
-  LookUpTwice(DateLimit(date.content));
+  LookUpTwice(ReadUtcTime(date.content));
   auto* entry = Allocate<RevokedCertificate>();
   *entry = {.hasCrlEntryExtensions = hasExtensions ? 1U : 0U,
             .certificateSerialNumber = CopyElement(serialNumber),

@@ -1,11 +1,11 @@
 // Single values: INTEGER, OBJECT IDENTIFIER, strings and times.
-#include <ctime>
 #include <memory>
 
 #include "Velkord.h"
 #include "cases.h"
 #include "contender.h"
 #include "inputs.h"
+#include "limit.h"
 
 namespace bench {
 
@@ -45,12 +45,6 @@ void AddLimit(const char* name, size_t size) {
   Add(name, "limit", 1, [size] { MakeAndFree(size); });
 }
 
-void LookUpTime() {
-  const std::time_t time = kTime;
-  std::tm fields;
-  benchmark::DoNotOptimize(localtime_r(&time, &fields));
-}
-
 void AddWriters() {
   Add("integer_write", "velkord", 1, [] {
     Anybuf* node = nullptr;
@@ -81,7 +75,7 @@ void AddWriters() {
     FreeNode(node);
   });
   Add("time_write", "limit", 1, [] {
-    LookUpTime();
+    LookUpLocalTime(kTime);
     MakeAndFree(15);
   });
 }
@@ -107,7 +101,7 @@ void AddReaders() {
     ASN1_ReadUtcTime(time.get(), &value);
     Require(value == kTime, "the time is read");
   });
-  Add("time_read", "limit", 1, LookUpTime);
+  Add("time_read", "limit", 1, [] { LookUpLocalTime(kTime); });
 }
 
 }  // namespace
