@@ -841,9 +841,8 @@ VELKORD_API int32_t ASN1_TBSCertificateWriteData(const TBSCertificate* record, A
 /// Decodes a TBSCertificate TLV node into a new record. The first element is always taken for the
 /// version; `version` stays 0. Optional elements are told by the low five bits of their tags, in
 /// any order; of several of one kind the last counts, though each must open, and elements of other
-/// tags are passed over. The unused-bits octets of the identifiers are derived anew (the one that
-/// stood in
-/// `[2]` stays in its content), and `extensions` holds a SEQUENCE around the list: what is written
+/// tags are passed over. The unused-bits octets of the identifiers are derived anew, where that of
+/// `[2]` stays in its content, and `extensions` holds a SEQUENCE around the list: what is written
 /// again is not what was signed. Free with `ASN1_FreeTBSCertificate`.
 /// Returns 0, -1 (also fewer than seven elements), -2 (also an identifier without content that is
 /// constructed or of an odd tag, such as `A1 00`, `A2 00` and `81 00`, and any BIT STRING without
@@ -1317,7 +1316,7 @@ VELKORD_API int32_t base64_decode(const char* text, uint8_t* out, uint32_t* outL
 /// the Base64 text, `out` needs B, 2 for each 64 characters of B or part of them, 2 and the text
 /// for each of header and footer that is not empty, and 1 more. No input gives `outLength` 0 and
 /// nothing written. Returns 0, or -1 for a `length` of 2^30 or more, and when header and footer
-/// make the text longer than 32 bits count.
+/// make the text longer than a `uint32_t` counts.
 VELKORD_API int32_t DER2PEM_data_format(const uint8_t* der, uint32_t length, char* out,
                                         uint32_t* outLength, const char* header,
                                         const char* footer);

@@ -123,6 +123,7 @@ TEST(Time, ReadsTheZoneOnlyWhileTzIsSet) {
   unsetenv("TZ");
   EXPECT_EQ(Watched(0, read), 0);
   EXPECT_EQ(watch.zoneReads, 0U);
+  SetZone("UTC0");
 }
 
 // A child that does not fit goes before a wrong tag in front of it, and before a lack of memory.
