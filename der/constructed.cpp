@@ -19,9 +19,9 @@ int32_t JoinChain(uint8_t tag, const Anybuf* chain, Anybuf** out) {
 }
 
 int32_t SplitBytes(Bytes in, uint32_t type, Anybuf** out) {
-  DerElements children;
-  VELKORD_TRY(children.OpenUnchecked(in, type));
-  return DerSplit(children, out);
+  DerElement parent;
+  VELKORD_TRY(DerParseElementOf(type, in, parent));
+  return DerSplit(parent.Content(), out);
 }
 
 int32_t SplitNode(const Anybuf* source, uint32_t type, Anybuf** out) {

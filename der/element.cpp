@@ -84,9 +84,8 @@ int32_t DerElements::Open(Bytes in, uint32_t type) {
   return DerCheckChildren(rest_);
 }
 
-int32_t DerElements::OpenContent(Bytes content) {
-  OpenUnchecked(content);
-  return DerCheckChildren(rest_);
+int32_t DerElements::Finish(int32_t code) const {
+  return DerCheckChildren(rest_) == VELKORD_OK ? code : VELKORD_FAILURE;
 }
 
 int32_t DerElements::Next(DerElement& child) {
@@ -100,7 +99,7 @@ int32_t DerElements::NextOfAnyHeader(DerElement& child) {
 int32_t DerElements::OpenUnchecked(Bytes in, uint32_t type) {
   DerElement parent;
   VELKORD_TRY(DerParseElementOf(type, in, parent));
-  OpenUnchecked(parent.Content());
+  rest_ = parent.Content();
   return VELKORD_OK;
 }
 

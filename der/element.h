@@ -40,6 +40,9 @@ constexpr uint32_t ReduceTag(uint8_t octet) {
   return octet >= 0x80 ? octet : octet & kTagNumberMask;
 }
 
+inline constexpr uint32_t kSequenceType = ReduceTag(kSequence);
+inline constexpr uint32_t kSetType = ReduceTag(kSet);
+
 constexpr bool IsLongTag(uint8_t first) { return (first & kTagNumberMask) == kTagNumberMask; }
 
 // Reads the tag octets at the front of `in`, which moves behind them. A tag of several octets is
@@ -122,25 +125,37 @@ int32_t DerParseElementOf(uint32_t type, Bytes in, DerElement& element);
 // Whether the children of an element fit its content. 0, or -1.
 int32_t DerCheckChildren(Bytes content);
 
-// The direct children of an element.
+// The direct children of a SEQUENCE or SET. Whichever of them are looked at, all are checked.
 class DerElements {
  public:
-  // These check all children before the first is given out.
-  //
-  // Opens a SEQUENCE or SET of reduced tag `type` that fills `in`.
-  // 0; -7 for another tag; -1 or -2 from its own header; -1 when a child does not fit.
-  int32_t Open(Bytes in, uint32_t type);
-
-  // Opens the content of an element whose header is read. 0, or -1 when a child does not fit.
-  int32_t OpenContent(Bytes content);
-
-  // These leave the check to `Next` and, for the children that it has not given, to `Finish`, which
-  // ends what was done with them: its `code`, or -1 when a child does not fit.
-  int32_t OpenUnchecked(Bytes in, uint32_t type);
-  void OpenUnchecked(Bytes content) { rest_ = content; }
-  int32_t Finish(int32_t code) const {
-    return AtEnd() || DerCheckChildren(rest_) == VELKORD_OK ? code : VELKORD_FAILURE;
+  // Reads the SEQUENCE or SET of reduced tag `type` that fills `in`: `read` takes the children that
+  // it needs, and the others are checked after it. Nothing that it stores counts before that.
+  // -7 for another tag; -1 or -2 from the header; -1 when a child does not fit, whatever `read`
+  // returns; the code of `read`.
+  template <typename Reader>
+  static int32_t Read(Bytes in, uint32_t type, Reader read) {
+    DerElements elements;
+    VELKORD_TRY(elements.OpenUnchecked(in, type));
+    return elements.Finish(read(elements));
   }
+
+  // Gives each child of a SEQUENCE to `read` with its place, 0 for the first and 1 for all after
+  // it, so that of more than two the last counts. The codes of `Read`; -1 for fewer than two.
+  template <typename Reader>
+  static int32_t ReadPair(Bytes in, Reader read) {
+    return Read(in, kSequenceType, [&](DerElements& elements) -> int32_t {
+      for (uint32_t at = 0; at < 2 || !elements.AtEnd(); ++at) {
+        DerElement child;
+        VELKORD_TRY(elements.Next(child));
+        VELKORD_TRY(read(child, at == 0 ? 0 : 1));
+      }
+      return VELKORD_OK;
+    });
+  }
+
+  // Opens the same and checks all children, for what is done at once with each of them.
+  // 0, -7, -1 or -2 as above.
+  int32_t Open(Bytes in, uint32_t type);
 
   bool AtEnd() const { return rest_.empty(); }
   // Whether there is a next child, whose first octet is `octet`.
@@ -152,19 +167,10 @@ class DerElements {
   // Gives the next child. 0, or -1 at the end and for one that does not fit.
   int32_t Next(DerElement& child);
 
-  // Gives each child to `open` with its place, 0 for the first and 1 for all behind it, so that of
-  // more than two the last counts. 0, the code of `open`, or -1 for fewer than two.
-  template <typename Open>
-  int32_t OpenPair(Open open) {
-    for (uint32_t at = 0; at < 2 || !AtEnd(); ++at) {
-      DerElement child;
-      VELKORD_TRY(Next(child));
-      VELKORD_TRY(open(child, at == 0 ? 0 : 1));
-    }
-    return VELKORD_OK;
-  }
-
  private:
+  int32_t OpenUnchecked(Bytes in, uint32_t type);
+  // `code`, or -1 when a child that was not taken does not fit.
+  int32_t Finish(int32_t code) const;
   int32_t Advance(const DerElement& child) {
     rest_ = rest_.subspan(child.whole.size());
     return VELKORD_OK;
@@ -173,9 +179,6 @@ class DerElements {
 
   Bytes rest_;
 };
-
-inline constexpr uint32_t kSequenceType = ReduceTag(kSequence);
-inline constexpr uint32_t kSetType = ReduceTag(kSet);
 
 }  // namespace velkord
 

@@ -181,13 +181,13 @@ int32_t DerRewrapNext(DerElements& children, Anybuf** out) {
   return DerRewrap(kSequence, child, out);
 }
 
-int32_t DerSplit(DerElements& children, Anybuf** out) {
+int32_t DerSplit(Bytes content, Anybuf** out) {
   NodePtr head;
   Anybuf** next = head.Out();
   Anybuf* last = nullptr;
-  while (!children.AtEnd()) {
+  while (!content.empty()) {
     DerElement child;
-    VELKORD_TRY(children.Next(child));
+    if (DerTakeElement(content, child) != VELKORD_OK) return VELKORD_FAILURE;
     VELKORD_TRY(DerCopyBytes(child.whole, child.tag, 0, next));
     (*next)->prev = last;
     last = *next;

@@ -168,8 +168,8 @@ int32_t DerRewrap(uint8_t tag, const DerElement& element, Anybuf** out);
 // none) or -7.
 int32_t DerRewrapNext(DerElements& children, Anybuf** out);
 
-// The children of an opened element as a chain of TLV nodes, null when there are none.
-int32_t DerSplit(DerElements& children, Anybuf** out);
+// The children in a content as a chain of TLV nodes, null when there are none.
+int32_t DerSplit(Bytes content, Anybuf** out);
 
 // The content of a TLV node, its reduced tag, and the unused bits that the node knows of.
 struct DerContent {

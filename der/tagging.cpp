@@ -68,11 +68,7 @@ int32_t ASN1_ReadImplicit(const Anybuf* source, Anybuf** out, uint32_t* outTagNu
 
   DerElement element;
   VELKORD_TRY(DerParseElement(NodeBytes(*source), element));
-  if (IsImplicitConstructed(tag)) {
-    DerElements children;
-    children.OpenUnchecked(element.Content());
-    return DerSplit(children, out);
-  }
+  if (IsImplicitConstructed(tag)) return DerSplit(element.Content(), out);
   Bytes content;
   VELKORD_TRY(DerOpenImplicit(element, content));
   return DerCopyBytes(content, tag, 0, out);

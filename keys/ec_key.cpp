@@ -48,9 +48,9 @@ constexpr auto kPublicKeyStart = Octets(
 
 // Gives the content of element number `place`, the first being 0, of a SEQUENCE.
 int32_t OpenChild(Bytes in, uint32_t place, Bytes& content) {
-  DerElements elements;
-  VELKORD_TRY(elements.Open(in, kSequenceType));
-  return DerNextContent(elements, content, place);
+  return DerElements::Read(in, kSequenceType, [&](DerElements& elements) {
+    return DerNextContent(elements, content, place);
+  });
 }
 
 }  // namespace

@@ -38,11 +38,10 @@ void CopyOutBoth(Bytes first, uint8_t* out, uint32_t* outLen, Bytes second, uint
 int32_t OpenSignature(const uint8_t* der, uint32_t derLen, Bytes& r, Bytes& s) {
   Bytes in;
   VELKORD_TRY(CallerBytes(der, derLen, in));
-  DerElements elements;
-  VELKORD_TRY(elements.OpenUnchecked(in, kSequenceType));
-  VELKORD_TRY(DerNextContent(elements, r));
-  VELKORD_TRY(DerNextContent(elements, s));
-  return elements.Finish(VELKORD_OK);
+  return DerElements::Read(in, kSequenceType, [&](DerElements& elements) -> int32_t {
+    VELKORD_TRY(DerNextContent(elements, r));
+    return DerNextContent(elements, s);
+  });
 }
 
 int32_t OpenValue(const uint8_t* der, uint32_t derLen, Bytes& content) {

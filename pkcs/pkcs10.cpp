@@ -15,8 +15,7 @@ int32_t FillAttributes(const DerElement& element, Anybuf*& field) {
   Bytes content = element.Content();
   if (IsImplicitConstructed(element.tag)) {
     // They come back as they stand, and are only checked.
-    DerElements attributes;
-    VELKORD_TRY(attributes.OpenContent(content));
+    VELKORD_TRY(DerCheckChildren(content));
   } else {
     VELKORD_TRY(DerOpenImplicit(element, content));
   }

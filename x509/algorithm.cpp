@@ -10,7 +10,33 @@ namespace {
 constexpr uint32_t kNullParameterMode = 1;
 constexpr uint8_t kNullElement[] = {kNull, 0x00};
 
-enum class ParameterKind { kNone, kSequence, kObjectId };
+struct AlgorithmView {
+  Bytes oid;
+  uint8_t parameterType = kNull;  // kNull, which has no content, kSequence or kObjectId.
+  Bytes parameter;
+};
+
+int32_t OpenAlgorithm(Bytes in, AlgorithmView& algorithm) {
+  return DerElements::Read(in, kSequenceType, [&](DerElements& elements) -> int32_t {
+    VELKORD_TRY(DerNextContent(elements, algorithm.oid));
+    // Each parameter is read, and the last one counts.
+    while (!elements.AtEnd()) {
+      DerElement element;
+      VELKORD_TRY(elements.Next(element));
+      if (element.whole[0] == kNull) {
+        algorithm.parameterType = kNull;
+      } else if (element.whole[0] == kSequence) {
+        VELKORD_TRY(DerCheckChildren(element.Content()));
+        algorithm.parameterType = kSequence;
+        algorithm.parameter = element.Content();
+      } else {
+        VELKORD_TRY(DerOpenContent(element, algorithm.parameter));
+        algorithm.parameterType = kObjectId;
+      }
+    }
+    return VELKORD_OK;
+  });
+}
 
 }  // namespace
 
@@ -32,39 +58,17 @@ int32_t ASN1_SetAlgorithmIdentifier(uint32_t mode, Anybuf* oid, const Anybuf* al
 int32_t ASN1_GetAlgorithmIdentifier(const Anybuf* source, Anybuf** outOid, Anybuf** outSequence,
                                     Anybuf** outParameterOid) {
   if (source == nullptr) return VELKORD_NULL_ARGUMENT;
-  DerElements elements;
-  Bytes oid;
-  VELKORD_TRY(elements.Open(NodeBytes(*source), kSequenceType));
-  VELKORD_TRY(DerNextContent(elements, oid));
-
-  // Each parameter is read, and the last one counts.
-  ParameterKind kind = ParameterKind::kNone;
-  Bytes parameter;
-  while (!elements.AtEnd()) {
-    DerElement element;
-    VELKORD_TRY(elements.Next(element));
-    if (element.whole[0] == kNull) {
-      kind = ParameterKind::kNone;
-    } else if (element.whole[0] == kSequence) {
-      DerElements inner;
-      VELKORD_TRY(inner.OpenContent(element.Content()));
-      kind = ParameterKind::kSequence;
-      parameter = element.Content();
-    } else {
-      VELKORD_TRY(DerOpenContent(element, parameter));
-      kind = ParameterKind::kObjectId;
-    }
-  }
-
+  AlgorithmView algorithm;
+  VELKORD_TRY(OpenAlgorithm(NodeBytes(*source), algorithm));
   NodePtr oidNode;
   NodePtr sequence;
   NodePtr parameterOid;
-  if (outOid != nullptr) VELKORD_TRY(DerBuild(kObjectId, oid, oidNode.Out()));
-  if (outSequence != nullptr && kind == ParameterKind::kSequence) {
-    VELKORD_TRY(DerBuild(kSequence, parameter, sequence.Out()));
+  if (outOid != nullptr) VELKORD_TRY(DerBuild(kObjectId, algorithm.oid, oidNode.Out()));
+  if (outSequence != nullptr && algorithm.parameterType == kSequence) {
+    VELKORD_TRY(DerBuild(kSequence, algorithm.parameter, sequence.Out()));
   }
-  if (outParameterOid != nullptr && kind == ParameterKind::kObjectId) {
-    VELKORD_TRY(DerBuild(kObjectId, parameter, parameterOid.Out()));
+  if (outParameterOid != nullptr && algorithm.parameterType == kObjectId) {
+    VELKORD_TRY(DerBuild(kObjectId, algorithm.parameter, parameterOid.Out()));
   }
   if (outOid != nullptr) *outOid = oidNode.release();
   if (outSequence != nullptr) *outSequence = sequence.release();

@@ -7,20 +7,20 @@
 namespace velkord {
 
 int32_t OpenExtension(Bytes in, ExtensionView& extension) {
-  DerElements elements;
-  VELKORD_TRY(elements.Open(in, kSequenceType));
-  VELKORD_TRY(DerNextContent(elements, extension.oid));
-  extension.critical = Bytes();
-  DerElement value;
-  VELKORD_TRY(elements.Next(value));
-  // Of exactly three elements the second is the BOOLEAN.
-  DerElement third;
-  if (elements.Next(third) == VELKORD_OK && elements.AtEnd()) {
-    if (value.Content().empty()) return VELKORD_SIZE_MISMATCH;
-    extension.critical = value.Content().first(1);
-    value = third;
-  }
-  return DerOpenContent(value, extension.value);
+  return DerElements::Read(in, kSequenceType, [&](DerElements& elements) -> int32_t {
+    VELKORD_TRY(DerNextContent(elements, extension.oid));
+    extension.critical = Bytes();
+    DerElement value;
+    VELKORD_TRY(elements.Next(value));
+    // Of exactly three elements the second is the BOOLEAN.
+    DerElement third;
+    if (elements.Next(third) == VELKORD_OK && elements.AtEnd()) {
+      if (value.Content().empty()) return VELKORD_SIZE_MISMATCH;
+      extension.critical = value.Content().first(1);
+      value = third;
+    }
+    return DerOpenContent(value, extension.value);
+  });
 }
 
 }  // namespace velkord

@@ -12,12 +12,11 @@ int32_t ASN1_GetRSAPublicKey(const Anybuf* source, Anybuf** outModulus, Anybuf**
   if (source == nullptr || outModulus == nullptr || outExponent == nullptr) {
     return VELKORD_NULL_ARGUMENT;
   }
-  DerElements elements;
-  VELKORD_TRY(elements.Open(NodeBytes(*source), kSequenceType));
   Bytes numbers[2];
-  VELKORD_TRY(elements.OpenPair([&](const DerElement& element, size_t place) {
+  const auto read = [&](const DerElement& element, size_t place) {
     return DerOpenContent(element, numbers[place]);
-  }));
+  };
+  VELKORD_TRY(DerElements::ReadPair(NodeBytes(*source), read));
   NodePtr modulus;
   VELKORD_TRY(DerBuild(kInteger, numbers[0], modulus.Out()));
   VELKORD_TRY(DerBuild(kInteger, numbers[1], outExponent));
@@ -36,12 +35,13 @@ int32_t ASN1_GetSubjectPublicKeyInfo(const Anybuf* source, Anybuf** outAlgorithm
   if (source == nullptr || outAlgorithm == nullptr || outKey == nullptr) {
     return VELKORD_NULL_ARGUMENT;
   }
-  DerElements elements;
   NodePtr algorithm;
   Bytes bits;
-  VELKORD_TRY(elements.Open(NodeBytes(*source), kSequenceType));
-  VELKORD_TRY(DerRewrapNext(elements, algorithm.Out()));
-  VELKORD_TRY(DerNextContent(elements, bits));
+  const auto read = [&](DerElements& elements) -> int32_t {
+    VELKORD_TRY(DerRewrapNext(elements, algorithm.Out()));
+    return DerNextContent(elements, bits);
+  };
+  VELKORD_TRY(DerElements::Read(NodeBytes(*source), kSequenceType, read));
   VELKORD_TRY(DerBuild(kBitString, bits, outKey));
   *outAlgorithm = algorithm.release();
   return VELKORD_OK;

@@ -8,18 +8,18 @@
 namespace velkord {
 
 int32_t OpenAttribute(Bytes in, AttributeView& attribute) {
-  DerElements elements;
-  VELKORD_TRY(elements.Open(in, kSequenceType));
-  VELKORD_TRY(DerNextContent(elements, attribute.type));
-  return elements.Next(attribute.value);
+  return DerElements::Read(in, kSequenceType, [&](DerElements& elements) -> int32_t {
+    VELKORD_TRY(DerNextContent(elements, attribute.type));
+    return elements.Next(attribute.value);
+  });
 }
 
 int32_t OpenFirstAttribute(Bytes in, AttributeView& attribute) {
-  DerElements attributes;
-  DerElement first;
-  VELKORD_TRY(attributes.Open(in, kSetType));
-  VELKORD_TRY(attributes.Next(first));
-  return OpenAttribute(first.whole, attribute);
+  return DerElements::Read(in, kSetType, [&](DerElements& attributes) -> int32_t {
+    DerElement first;
+    VELKORD_TRY(attributes.Next(first));
+    return OpenAttribute(first.whole, attribute);
+  });
 }
 
 }  // namespace velkord

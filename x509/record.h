@@ -93,27 +93,17 @@ inline Field OptionalField(uint32_t flag, const Anybuf* node) {
 // Makes the SEQUENCE of a record's fields. 0, -1, or -8 when a field is not set.
 int32_t JoinFields(std::initializer_list<Field> fields, Anybuf** out);
 
-// Makes a record that `fill` fills, and when that fails nothing is left. 0, -7000, or the code of
-// `fill`.
-template <auto kFree, typename Record, typename Fill>
-int32_t MakeRecord(Record** out, Fill fill) {
-  Owned<Record, kFree> record;
-  VELKORD_TRY(CreateRecord(record.Out()));
-  VELKORD_TRY(fill(*record));
-  *out = record.release();
-  return VELKORD_OK;
-}
-
 // Makes a record of the bytes of a SEQUENCE, filled from its elements. 0, -1, -2, -7, -7000, -8, or
 // the code of `fill`.
 template <auto kFree, typename Record, typename Fill>
 int32_t DecodeRecord(const uint8_t* bytes, uint32_t length, Record** out, Fill fill) {
   if (bytes == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
-  return MakeRecord<kFree>(out, [&](Record& record) -> int32_t {
-    DerElements elements;
-    VELKORD_TRY(elements.OpenUnchecked(Bytes(bytes, length), kSequenceType));
-    return elements.Finish(fill(record, elements));
-  });
+  Owned<Record, kFree> record;
+  VELKORD_TRY(CreateRecord(record.Out()));
+  VELKORD_TRY(DerElements::Read(Bytes(bytes, length), kSequenceType,
+                                [&](DerElements& elements) { return fill(*record, elements); }));
+  *out = record.release();
+  return VELKORD_OK;
 }
 
 }  // namespace velkord

@@ -31,11 +31,9 @@ using Optionals = std::array<DerElement, kTagNumbers>;
 // The bits of a unique identifier: of a constructed element its first inner element as it stands.
 int32_t OpenUniqueId(const DerElement& element, Bytes& bits) {
   if (!IsImplicitConstructed(element.tag)) return DerOpenImplicit(element, bits);
-  DerElements inner;
-  VELKORD_TRY(inner.OpenContent(element.Content()));
-  if (inner.AtEnd()) return VELKORD_SIZE_MISMATCH;
+  VELKORD_TRY(DerCheckChildren(element.Content()));
   DerElement first;
-  VELKORD_TRY(inner.Next(first));
+  VELKORD_TRY(DerOpenElement(element.Content(), first));
   bits = first.whole;
   return VELKORD_OK;
 }
@@ -176,10 +174,13 @@ int32_t ASN1_TBSCertificateWriteData(const TBSCertificate* record, Anybuf** out)
 
 int32_t ASN1_TBSCertificateDecode(const Anybuf* source, TBSCertificate** out) {
   if (source == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
-  DerElements elements;
-  VELKORD_TRY(elements.OpenUnchecked(NodeBytes(*source), kSequenceType));
-  const int32_t code = MakeRecord<ASN1_FreeTBSCertificate>(
-      out, [&](TBSCertificate& record) { return Fill(record, elements); });
-  // A child that does not fit goes before all else, a lack of memory too. Success has read all.
-  return elements.Finish(code);
+  Owned<TBSCertificate, ASN1_FreeTBSCertificate> record;
+  const auto read = [&](DerElements& elements) -> int32_t {
+    // Here and not before, since malformed bytes go before a lack of memory.
+    VELKORD_TRY(CreateRecord(record.Out()));
+    return Fill(*record, elements);
+  };
+  VELKORD_TRY(DerElements::Read(NodeBytes(*source), kSequenceType, read));
+  *out = record.release();
+  return VELKORD_OK;
 }

@@ -14,15 +14,14 @@ int32_t ASN1_GetValidity(const Anybuf* source, int32_t* notBefore, int32_t* notA
   if (source == nullptr || notBefore == nullptr || notAfter == nullptr) {
     return VELKORD_NULL_ARGUMENT;
   }
-  DerElements elements;
-  VELKORD_TRY(elements.Open(NodeBytes(*source), kSequenceType));
   int32_t times[2] = {};
-  VELKORD_TRY(elements.OpenPair([&](const DerElement& element, size_t place) -> int32_t {
+  const auto read = [&](const DerElement& element, size_t place) -> int32_t {
     if (element.tag != ReduceTag(kUtcTime) && element.tag != ReduceTag(kGeneralizedTime)) {
       return VELKORD_WRONG_TAG;
     }
     return TimeRead(element, times[place]);
-  }));
+  };
+  VELKORD_TRY(DerElements::ReadPair(NodeBytes(*source), read));
   *notBefore = times[0];
   *notAfter = times[1];
   return VELKORD_OK;
