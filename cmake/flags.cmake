@@ -5,8 +5,9 @@ set(CMAKE_C_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
 if(VELKORD_SANITIZE)
+  # With the library's assertions, which an optimised build leaves out.
   add_compile_options(-fsanitize=${VELKORD_SANITIZE} -fno-sanitize-recover=all
-                      -fno-omit-frame-pointer)
+                      -fno-omit-frame-pointer -UNDEBUG)
   add_link_options(-fsanitize=${VELKORD_SANITIZE})
 endif()
 

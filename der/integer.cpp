@@ -26,7 +26,7 @@ int32_t Asn1LowIntToChar(uint32_t value, uint8_t** outBytes, uint32_t** outLengt
     Release(length);
     return VELKORD_FAILURE;
   }
-  Put(block, octets);
+  CopyOut(octets, block);
   *length = static_cast<uint32_t>(octets.size());
   *outBytes = block;
   *outLength = length;

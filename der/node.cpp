@@ -32,21 +32,6 @@ uint32_t ImpliedUnusedBits(Bytes bits) {
   return last < 2 || last > 0x80 ? 0 : static_cast<uint32_t>(std::bit_width(last - 1));
 }
 
-uint8_t* DerHeader::Put(uint8_t* place) const {
-  const auto length = static_cast<uint32_t>(contentLength_);
-  *place++ = tag_;
-  if (lengthSize_ == 1) {
-    *place++ = static_cast<uint8_t>(length);
-  } else {
-    *place++ = static_cast<uint8_t>(0x80 | (lengthSize_ - 1));
-    for (uint32_t left = lengthSize_ - 1; left != 0; --left) {
-      *place++ = static_cast<uint8_t>(length >> 8 * (left - 1));
-    }
-  }
-  if (hasOctet_) *place++ = octet_;
-  return place;
-}
-
 Anybuf* DerNewNode(uint64_t size, uint32_t dataType) {
   if (size > UINT32_MAX) return nullptr;
   auto* node = Allocate<Anybuf>();
@@ -69,7 +54,7 @@ Anybuf* DerNewNode(uint64_t size, uint32_t dataType) {
 int32_t DerCopyBytes(Bytes bytes, uint32_t dataType, uint32_t unusedBits, Anybuf** out) {
   Anybuf* node = DerNewNode(bytes.size(), dataType);
   if (node == nullptr) return VELKORD_FAILURE;
-  Put(node->data, bytes);
+  CopyOut(bytes, node->data);
   node->unusedBits = unusedBits;
   *out = node;
   return VELKORD_OK;
@@ -101,21 +86,16 @@ Anybuf* DerCopyNode(const Anybuf& node) {
   return copy;
 }
 
-int32_t DerBuildHeader(const DerHeader& header, Anybuf** out, uint8_t*& place) {
+Anybuf* DerNewElement(const DerHeader& header) {
   Anybuf* node = DerNewNode(header.Total(), ReduceTag(header.Tag()));
-  if (node == nullptr) return VELKORD_FAILURE;
-  place = header.Put(node->data);
-  *out = node;
-  return VELKORD_OK;
+  if (node != nullptr) DerWriter({node->data, header.Size()}).Put(header);
+  return node;
 }
 
 int32_t DerBuild(uint8_t tag, Bytes content, Anybuf** out, uint32_t unusedBits) {
-  Anybuf* node;
-  uint8_t* place;
-  VELKORD_TRY(DerBuildHeader(DerHeader::For(tag, content, unusedBits), &node, place));
-  node->unusedBits = tag == kBitString ? unusedBits : 0;
-  Put(place, content);
-  *out = node;
+  VELKORD_TRY(DerBuildWith(DerHeader::For(tag, content, unusedBits), out,
+                           [&](DerWriter& writer) { writer.Put(content); }));
+  if (tag == kBitString) (*out)->unusedBits = unusedBits;
   return VELKORD_OK;
 }
 

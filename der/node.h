@@ -7,10 +7,9 @@
 #define VELKORD_DER_NODE_H_
 
 #include <cstdint>
-#include <cstring>
 #include <initializer_list>
 
-#include "der/element.h"
+#include "der/writer.h"
 #include "platform/owned.h"
 
 namespace velkord {
@@ -33,75 +32,9 @@ inline int32_t CallerBytes(const uint8_t* bytes, uint32_t length, Bytes& out) {
   return VELKORD_OK;
 }
 
-// Copies `bytes` to `place` and gives the place behind them.
-inline uint8_t* Put(uint8_t* place, Bytes bytes) {
-  if (!bytes.empty()) std::memcpy(place, bytes.data(), bytes.size());
-  return place + bytes.size();
-}
-
-// Copies `bytes` to a caller's buffer, which may lie over them, and gives their number.
-inline uint32_t CopyOut(Bytes bytes, uint8_t* out) {
-  if (!bytes.empty()) std::memmove(out, bytes.data(), bytes.size());
-  return static_cast<uint32_t>(bytes.size());
-}
-
 // Number of unused bits that the size of the last byte implies: 0 below 2 and above 128, otherwise
 // the number of bits of one less than the byte.
 uint32_t ImpliedUnusedBits(Bytes bits);
-
-// The header of an element: tag and length octets, and the octet that the content has in front.
-class DerHeader {
- public:
-  DerHeader(uint8_t tag, uint64_t contentLength) : DerHeader(tag, contentLength, false, 0) {}
-  // With the unused-bits octet of a BIT STRING.
-  static DerHeader ForBitString(uint32_t unusedBits, uint64_t bitsLength) {
-    return {kBitString, bitsLength + 1, true, static_cast<uint8_t>(unusedBits)};
-  }
-  // With the octet that the content of such an element has in front: a BIT STRING's is the low byte
-  // of `unusedBits`, which no other type looks at; an INTEGER's is zero, and there only when the
-  // content begins with 0x80 or more.
-  static DerHeader For(uint8_t tag, Bytes content, uint32_t unusedBits = 0) {
-    if (tag == kBitString) return ForBitString(unusedBits, content.size());
-    if (tag == kInteger && !content.empty() && content[0] >= 0x80) {
-      return {tag, uint64_t{content.size()} + 1, true, 0};
-    }
-    return {tag, content.size()};
-  }
-
-  uint8_t Tag() const { return tag_; }
-  // Size of the whole element.
-  uint64_t Total() const { return 1 + lengthSize_ + contentLength_; }
-  // Writes the header and gives the place behind it.
-  uint8_t* Put(uint8_t* place) const;
-
- private:
-  // A length beyond 32 bits is refused by whoever makes the element, which is never smaller.
-  DerHeader(uint8_t tag, uint64_t contentLength, bool hasOctet, uint8_t octet)
-      : tag_(tag),
-        hasOctet_(hasOctet),
-        octet_(octet),
-        lengthSize_(DerLengthSize(static_cast<uint32_t>(contentLength))),
-        contentLength_(contentLength) {}
-
-  uint8_t tag_;
-  bool hasOctet_;
-  uint8_t octet_;
-  uint32_t lengthSize_;
-  uint64_t contentLength_;
-};
-
-// A header as a part of what is joined.
-class DerHeaderOctets {
- public:
-  explicit DerHeaderOctets(const DerHeader& header)
-      : size_(static_cast<size_t>(header.Put(octets_) - octets_)) {}
-
-  Bytes View() const { return {octets_, size_}; }
-
- private:
-  uint8_t octets_[7] = {};
-  size_t size_;
-};
 
 // A node with a block of `size` bytes for the caller to fill; null when it cannot be made.
 Anybuf* DerNewNode(uint64_t size, uint32_t dataType);
@@ -124,8 +57,19 @@ inline int32_t DerCopyElement(const DerElement& element, Anybuf** out) {
 // made.
 Anybuf* DerCopyNode(const Anybuf& node);
 
-// A TLV node whose header is written; `place` is where its content goes.
-int32_t DerBuildHeader(const DerHeader& header, Anybuf** out, uint8_t*& place);
+// A TLV node whose header is written; null when it cannot be made.
+Anybuf* DerNewElement(const DerHeader& header);
+
+// A TLV node of a header and the content that `write` writes.
+template <typename Write>
+int32_t DerBuildWith(const DerHeader& header, Anybuf** out, Write write) {
+  Anybuf* node = DerNewElement(header);
+  if (node == nullptr) return VELKORD_FAILURE;
+  DerWriter writer(std::span(node->data, node->dataLen).subspan(header.Size()));
+  write(writer);
+  *out = node;
+  return VELKORD_OK;
+}
 
 // One element from one content, with the octet in front that `DerHeader::For` gives it.
 int32_t DerBuild(uint8_t tag, Bytes content, Anybuf** out, uint32_t unusedBits = 0);
@@ -139,12 +83,8 @@ template <typename ForEach>
 int32_t DerJoinEach(uint8_t tag, ForEach forEach, Anybuf** out) {
   uint64_t length = 0;
   forEach([&](Bytes part) { length += part.size(); });
-  Anybuf* node;
-  uint8_t* place;
-  VELKORD_TRY(DerBuildHeader(DerHeader(tag, length), &node, place));
-  forEach([&](Bytes part) { place = Put(place, part); });
-  *out = node;
-  return VELKORD_OK;
+  return DerBuildWith(DerHeader(tag, length), out,
+                      [&](DerWriter& writer) { forEach([&](Bytes part) { writer.Put(part); }); });
 }
 
 // One element from the bytes of all `parts`; an absent part is an empty view.

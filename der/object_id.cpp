@@ -11,9 +11,11 @@ uint32_t ObjectIdSize(std::string_view text) {
   return ForEachObjectIdOctet(text, [&](uint8_t) { ++size; }) ? size : 0;
 }
 
-uint8_t* PutObjectId(uint8_t* place, std::string_view text) {
-  ForEachObjectIdOctet(text, [&](uint8_t octet) { *place++ = octet; });
-  return place;
+void FillObjectId(std::span<uint8_t> room, std::string_view text) {
+  // A refused text stands for an identifier without content.
+  if (room.empty()) return;
+  DerWriter writer(room);
+  ForEachObjectIdOctet(text, [&](uint8_t octet) { writer.Put(octet); });
 }
 
 bool IsObjectId(Bytes content, std::string_view text) {
@@ -67,7 +69,7 @@ int32_t ASN1_ReadObjectId(const Anybuf* source, ObjectID** out) {
     Release(data);
     return VELKORD_OUT_OF_MEMORY;
   }
-  Put(data, content.bytes);
+  CopyOut(content.bytes, data);
   record->data = data;
   record->dataLen = static_cast<uint32_t>(content.bytes.size());
   record->unusedBits = content.unusedBits;

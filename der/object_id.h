@@ -39,8 +39,8 @@ constexpr bool ForEachObjectIdOctet(std::string_view text, Sink sink) {
 // Number of content octets of the dotted text; 0 for a text that is refused.
 uint32_t ObjectIdSize(std::string_view text);
 
-// Writes those octets to `place` and gives the place behind them.
-uint8_t* PutObjectId(uint8_t* place, std::string_view text);
+// Fills the room of so many octets with them.
+void FillObjectId(std::span<uint8_t> room, std::string_view text);
 
 // Whether `content` holds exactly those octets.
 bool IsObjectId(Bytes content, std::string_view text);

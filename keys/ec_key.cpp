@@ -60,7 +60,7 @@ int32_t ASN1_EccPubkey2Der(const EccPubkey* key, uint8_t* der, uint32_t* derLen)
   const auto* record = static_cast<const uint8_t*>(static_cast<const void*>(key));
   const Bytes coordinates(record + kCoordinates, kCoordinatesSize);
   CopyOut(coordinates, der + kPublicKeyStart.size());
-  Put(der, kPublicKeyStart);
+  CopyOut(kPublicKeyStart, der);
   *derLen = kPublicKeyStart.size() + kCoordinatesSize;
   return VELKORD_OK;
 }

@@ -13,7 +13,7 @@ uint8_t* Scratch::Allocate(size_t size) {
 int32_t Scratch::Hold(Bytes& in) {
   uint8_t* copy = Allocate(in.size());
   if (copy == nullptr) return VELKORD_FAILURE;
-  Put(copy, in);
+  CopyOut(in, copy);
   in = Bytes(copy, in.size());
   return VELKORD_OK;
 }

@@ -47,9 +47,8 @@ int32_t KeepInput(Bytes& in, Scratch& scratch, Outs... outs) {
   return (Overlap(in, outs) || ...) ? scratch.Hold(in) : VELKORD_OK;
 }
 
-// Has `write` write `size` bytes, made of `inputs`, to the place that it is given: `out`, or a
-// block that is copied there where `out` lies over an input. 0, or -1 when there is no memory for
-// that.
+// Has `write` write `size` bytes, made of `inputs`, to `out`, or to a block that is copied there
+// where `out` lies over an input. 0, or -1 when there is no memory for that.
 template <typename Inputs, typename Write>
 int32_t WriteInPlace(const Inputs& inputs, uint8_t* out, size_t size, Write write) {
   Scratch scratch;
@@ -57,8 +56,9 @@ int32_t WriteInPlace(const Inputs& inputs, uint8_t* out, size_t size, Write writ
   const auto isWrittenOver = [=](Bytes in) { return Overlap(in, Bytes(out, size)); };
   if (std::any_of(inputs.begin(), inputs.end(), isWrittenOver)) place = scratch.Allocate(size);
   if (place == nullptr) return VELKORD_FAILURE;
-  write(place);
-  if (place != out) Put(out, Bytes(place, size));
+  DerWriter writer({place, size});
+  write(writer);
+  if (place != out) CopyOut(Bytes(place, size), out);
   return VELKORD_OK;
 }
 

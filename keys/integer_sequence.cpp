@@ -9,10 +9,11 @@ int32_t WriteIntegerSequence(std::span<const Bytes> magnitudes, uint8_t* out, ui
   for (const Bytes magnitude : magnitudes) length += DerHeader::For(kInteger, magnitude).Total();
   const DerHeader sequence(kSequence, length);
   if (sequence.Total() > UINT32_MAX) return VELKORD_FAILURE;
-  const auto write = [&](uint8_t* place) {
-    place = sequence.Put(place);
+  const auto write = [&](DerWriter& writer) {
+    writer.Put(sequence);
     for (const Bytes magnitude : magnitudes) {
-      place = Put(DerHeader::For(kInteger, magnitude).Put(place), magnitude);
+      writer.Put(DerHeader::For(kInteger, magnitude));
+      writer.Put(magnitude);
     }
   };
   if (out != nullptr) {

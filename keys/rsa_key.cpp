@@ -24,7 +24,7 @@ Bytes KeyFieldTrim(Bytes field) {
 // Puts a number at the start of its field. 0, or -1 when it is too long.
 int32_t FillField(Bytes number, std::span<uint8_t> field) {
   if (number.size() > field.size()) return VELKORD_FAILURE;
-  Put(field.data(), number);
+  CopyOut(number, field.data());
   return VELKORD_OK;
 }
 

@@ -15,9 +15,9 @@ void WriteElement(const DerHeader& header, std::initializer_list<Bytes> parts, u
                   uint32_t* derLen) {
   if (header.Total() > UINT32_MAX) return;
   const auto size = static_cast<uint32_t>(header.Total());
-  const auto write = [&](uint8_t* place) {
-    place = header.Put(place);
-    for (const Bytes part : parts) place = Put(place, part);
+  const auto write = [&](DerWriter& writer) {
+    writer.Put(header);
+    for (const Bytes part : parts) writer.Put(part);
   };
   if (WriteInPlace(parts, der, size, write) == VELKORD_OK) *derLen = size;
 }
@@ -85,8 +85,8 @@ int32_t ASN1_SM2_PrikeyEncode(const uint8_t* value, uint32_t valueLen, uint8_t* 
   if (header.Total() > UINT32_MAX) return VELKORD_OK;
   // One move, and then the header in front, so that `der` may lie over the value.
   const auto size = static_cast<uint32_t>(header.Total());
-  CopyOut(number, der + (size - number.size()));
-  header.Put(der);
+  CopyOut(number, der + header.Size());
+  DerWriter({der, header.Size()}).Put(header);
   *derLen = size;
   return VELKORD_OK;
 }

@@ -85,16 +85,12 @@ int32_t ASN1_GetDerRelativeDistinguishedNameOne(const Anybuf* value, int32_t /*i
   const uint32_t oidSize = ObjectIdSize(text);
   const DerHeader oid(kObjectId, oidSize);
   const DerHeader attribute(kSequence, oid.Total() + valueBytes.size());
-  Anybuf* node;
-  uint8_t* place;
-  VELKORD_TRY(DerBuildHeader(DerHeader(kSet, attribute.Total()), &node, place));
-  place = attribute.Put(place);
-  place = oid.Put(place);
-  // A refused text stands for an identifier without content.
-  if (oidSize != 0) place = PutObjectId(place, text);
-  Put(place, valueBytes);
-  *out = node;
-  return VELKORD_OK;
+  return DerBuildWith(DerHeader(kSet, attribute.Total()), out, [&](DerWriter& writer) {
+    writer.Put(attribute);
+    writer.Put(oid);
+    FillObjectId(writer.Take(oidSize), text);
+    writer.Put(valueBytes);
+  });
 }
 
 int32_t ASN1_DecodeDerRelativeDistinguishedNameOne(const Anybuf* source, uint8_t* value,

@@ -9,12 +9,9 @@ int32_t JoinFields(std::initializer_list<Field> fields, Anybuf** out) {
     if (!field.set) return VELKORD_NULL_ARGUMENT;
     length += field.bytes.size();
   }
-  Anybuf* node;
-  uint8_t* place;
-  VELKORD_TRY(DerBuildHeader(DerHeader(kSequence, length), &node, place));
-  for (const Field& field : fields) place = Put(place, field.bytes);
-  *out = node;
-  return VELKORD_OK;
+  return DerBuildWith(DerHeader(kSequence, length), out, [&](DerWriter& writer) {
+    for (const Field& field : fields) writer.Put(field.bytes);
+  });
 }
 
 }  // namespace velkord
