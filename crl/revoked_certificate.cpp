@@ -2,7 +2,7 @@
 #include "der/time.h"
 #include "x509/record.h"
 
-using namespace velkord;
+using namespace velkord::internal;
 
 namespace {
 
@@ -45,7 +45,7 @@ int32_t ASN1_CRL_SetRevokedCertificateCrlEntryExtensions(RevokedCertificate* rec
 }
 
 int32_t ASN1_CRL_RevokedCertificateWriteData(const RevokedCertificate* record, Anybuf** out) {
-  if (record == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
+  if (record == nullptr) return VELKORD_NULL_ARGUMENT;
   return JoinFields({record->certificateSerialNumber, record->revocationDate,
                      OptionalField(record->hasCrlEntryExtensions, record->crlEntryExtensions)},
                     out);

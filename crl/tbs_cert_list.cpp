@@ -4,7 +4,7 @@
 #include "der/time.h"
 #include "x509/record.h"
 
-using namespace velkord;
+using namespace velkord::internal;
 
 namespace {
 

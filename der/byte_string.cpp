@@ -4,7 +4,7 @@
 
 #include "der/forward.h"
 
-namespace velkord {
+namespace velkord::internal {
 
 uint32_t CopyBmpText(Bytes text, uint8_t* out) {
   uint32_t size = 0;
@@ -15,9 +15,9 @@ uint32_t CopyBmpText(Bytes text, uint8_t* out) {
   return size;
 }
 
-}  // namespace velkord
+}  // namespace velkord::internal
 
-using namespace velkord;
+using namespace velkord::internal;
 
 int32_t ASN1_WriteOctetString(const Anybuf* source, Anybuf** out) {
   return DerBuildFromNode(kOctetString, source, out);

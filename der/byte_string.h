@@ -4,12 +4,12 @@
 
 #include "der/node.h"
 
-namespace velkord {
+namespace velkord::internal {
 
 // Copies BMP text to `out`, of each pair a zero high byte left out and an odd last byte too; gives
 // the number of bytes written, at most those of `text`.
 uint32_t CopyBmpText(Bytes text, uint8_t* out);
 
-}  // namespace velkord
+}  // namespace velkord::internal
 
 #endif  // VELKORD_DER_BYTE_STRING_H_

@@ -4,7 +4,7 @@
 
 #include "platform/local_time.h"
 
-namespace velkord {
+namespace velkord::internal {
 
 namespace {
 
@@ -61,4 +61,4 @@ bool FromLocalTime(std::tm& fields, int32_t& seconds) {
   return true;
 }
 
-}  // namespace velkord
+}  // namespace velkord::internal

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <ctime>
 
-namespace velkord {
+namespace velkord::internal {
 
 // Finds the time that the zone shows as `fields`: year, month, day, hour, minute and second, of
 // which those out of their range carry over. Of two such times it is the earlier one; an hour that
@@ -13,6 +13,6 @@ namespace velkord {
 // shows. False for a time outside 0 to 2147483647.
 bool FromLocalTime(std::tm& fields, int32_t& seconds);
 
-}  // namespace velkord
+}  // namespace velkord::internal
 
 #endif  // VELKORD_DER_CIVIL_TIME_H_

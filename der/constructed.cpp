@@ -2,7 +2,7 @@
 #include "der/forward.h"
 #include "der/node.h"
 
-using namespace velkord;
+using namespace velkord::internal;
 
 namespace {
 

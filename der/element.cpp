@@ -1,6 +1,6 @@
 #include "der/element.h"
 
-namespace velkord {
+namespace velkord::internal {
 
 // Contents too long for a test to make.
 static_assert(DerLengthSize(0xFFFFFF) == 4 && DerLengthSize(0x1000000) == 5);
@@ -103,4 +103,4 @@ int32_t DerElements::OpenUnchecked(Bytes in, uint32_t type) {
   return VELKORD_OK;
 }
 
-}  // namespace velkord
+}  // namespace velkord::internal

@@ -9,7 +9,7 @@
 
 #include "der/result.h"
 
-namespace velkord {
+namespace velkord::internal {
 
 using Bytes = std::span<const uint8_t>;
 
@@ -180,6 +180,6 @@ class DerElements {
   Bytes rest_;
 };
 
-}  // namespace velkord
+}  // namespace velkord::internal
 
 #endif  // VELKORD_DER_ELEMENT_H_

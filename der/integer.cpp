@@ -3,7 +3,7 @@
 
 #include "platform/memory.h"
 
-namespace velkord {
+namespace velkord::internal {
 
 uint32_t DerBytesToUint(Bytes content) {
   uint32_t value = 0;
@@ -11,9 +11,9 @@ uint32_t DerBytesToUint(Bytes content) {
   return value;
 }
 
-}  // namespace velkord
+}  // namespace velkord::internal
 
-using namespace velkord;
+using namespace velkord::internal;
 
 int32_t Asn1LowIntToChar(uint32_t value, uint8_t** outBytes, uint32_t** outLength) {
   if (outBytes == nullptr || outLength == nullptr) return VELKORD_NULL_ARGUMENT;

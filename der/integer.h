@@ -6,7 +6,7 @@
 
 #include "der/node.h"
 
-namespace velkord {
+namespace velkord::internal {
 
 // The element of a number.
 class IntegerElement {
@@ -32,6 +32,6 @@ class IntegerElement {
 // The low 32 bits of the number in the content of an element.
 uint32_t DerBytesToUint(Bytes content);
 
-}  // namespace velkord
+}  // namespace velkord::internal
 
 #endif  // VELKORD_DER_INTEGER_H_

@@ -5,7 +5,7 @@
 
 #include "platform/memory.h"
 
-namespace velkord {
+namespace velkord::internal {
 
 namespace {
 
@@ -210,4 +210,4 @@ int32_t DerOpenRaw(const Anybuf& source, Bytes& content) {
   return OpenElement(element, false, content);
 }
 
-}  // namespace velkord
+}  // namespace velkord::internal

@@ -12,7 +12,7 @@
 #include "der/writer.h"
 #include "platform/owned.h"
 
-namespace velkord {
+namespace velkord::internal {
 
 // `memKind` of every node that is made here.
 inline constexpr uint32_t kMemKind = 2;
@@ -134,6 +134,6 @@ int32_t DerCopyContent(const DerElement& child, Anybuf** out);
 // it. 0, -1 when there is none, or -2.
 int32_t DerNextContent(DerElements& children, Bytes& content, uint32_t passedOver = 0);
 
-}  // namespace velkord
+}  // namespace velkord::internal
 
 #endif  // VELKORD_DER_NODE_H_

@@ -4,7 +4,7 @@
 #include "der/forward.h"
 #include "platform/memory.h"
 
-namespace velkord {
+namespace velkord::internal {
 
 uint32_t ObjectIdSize(std::string_view text) {
   uint32_t size = 0;
@@ -33,9 +33,9 @@ int32_t CallerText(const char* text, int32_t length, std::string_view& out) {
   return VELKORD_OK;
 }
 
-}  // namespace velkord
+}  // namespace velkord::internal
 
-using namespace velkord;
+using namespace velkord::internal;
 
 int32_t ASN1_OBJECT_a2d(uint8_t* out, uint32_t* outLength, const char* text, int32_t textLength) {
   std::string_view view;

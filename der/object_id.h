@@ -6,7 +6,7 @@
 
 #include "der/node.h"
 
-namespace velkord {
+namespace velkord::internal {
 
 // Calls `sink` with each content octet of the dotted text, blanks taken as points, in order.
 // False for a text that is refused; the octets of the arcs before the bad one have then been given.
@@ -48,6 +48,6 @@ bool IsObjectId(Bytes content, std::string_view text);
 // The text that a caller gave; none when its length is negative. 0, or -8 for a null pointer.
 int32_t CallerText(const char* text, int32_t length, std::string_view& out);
 
-}  // namespace velkord
+}  // namespace velkord::internal
 
 #endif  // VELKORD_DER_OBJECT_ID_H_

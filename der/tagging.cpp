@@ -3,7 +3,7 @@
 
 #include "der/forward.h"
 
-namespace velkord {
+namespace velkord::internal {
 
 int32_t DerOpenImplicit(const DerElement& element, Bytes& content) {
   Bytes bytes = element.Content();
@@ -15,9 +15,9 @@ int32_t DerOpenImplicit(const DerElement& element, Bytes& content) {
   return VELKORD_OK;
 }
 
-}  // namespace velkord
+}  // namespace velkord::internal
 
-using namespace velkord;
+using namespace velkord::internal;
 
 int32_t ASN1_WriteExplicit(const Anybuf* source, uint8_t tagNumber, Anybuf** out) {
   return DerBuildFromNode(ExplicitTag(tagNumber), source, out);

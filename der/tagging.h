@@ -4,7 +4,7 @@
 
 #include "der/node.h"
 
-namespace velkord {
+namespace velkord::internal {
 
 // Tag octet of an EXPLICIT tag, from its number or from the octet itself.
 constexpr uint8_t ExplicitTag(uint32_t number) {
@@ -21,6 +21,6 @@ constexpr bool IsImplicitConstructed(uint32_t tag) {
 // 0, or -2 when there is none to drop.
 int32_t DerOpenImplicit(const DerElement& element, Bytes& content);
 
-}  // namespace velkord
+}  // namespace velkord::internal
 
 #endif  // VELKORD_DER_TAGGING_H_

@@ -4,7 +4,7 @@
 #include "der/civil_time.h"
 #include "platform/local_time.h"
 
-namespace velkord {
+namespace velkord::internal {
 
 namespace {
 
@@ -150,9 +150,9 @@ int32_t TimeRewrite(const Anybuf& source, Anybuf** out) {
   return Rewrite(element, form, out);
 }
 
-}  // namespace velkord
+}  // namespace velkord::internal
 
-using namespace velkord;
+using namespace velkord::internal;
 
 namespace {
 

@@ -6,7 +6,7 @@
 
 #include "der/node.h"
 
-namespace velkord {
+namespace velkord::internal {
 
 // The element of a time.
 class TimeElement {
@@ -37,6 +37,6 @@ int32_t TimeRewrite(const DerElement& element, Anybuf** out);
 // The same of a node by its `dataType`; -1 or -2 from the header.
 int32_t TimeRewrite(const Anybuf& source, Anybuf** out);
 
-}  // namespace velkord
+}  // namespace velkord::internal
 
 #endif  // VELKORD_DER_TIME_H_

@@ -2,7 +2,7 @@
 #include "der/node.h"
 #include "platform/memory.h"
 
-using namespace velkord;
+using namespace velkord::internal;
 
 int32_t ASN1_CreateAnybuf(const uint8_t* bytes, uint32_t length, uint8_t type, Anybuf** out) {
   if (out == nullptr) return VELKORD_NULL_ARGUMENT;

@@ -7,7 +7,7 @@
 
 #include "der/element.h"
 
-namespace velkord {
+namespace velkord::internal {
 
 // Copies `bytes` to a buffer, which may lie over them, and gives their number.
 inline uint32_t CopyOut(Bytes bytes, uint8_t* out) {
@@ -119,6 +119,6 @@ class DerHeaderOctets {
   size_t size_;
 };
 
-}  // namespace velkord
+}  // namespace velkord::internal
 
 #endif  // VELKORD_DER_WRITER_H_

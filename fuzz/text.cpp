@@ -34,15 +34,15 @@ void Base64(Input in) {
   DecodeBase64(reinterpret_cast<const char*>(encoded.bytes.get()), again);
   REQUIRE(Same(again.View(), in));
 
-  for (const velkord::Base64Kernel& kernel : velkord::Base64Kernels()) {
+  for (const velkord::internal::Base64Kernel& kernel : velkord::internal::Base64Kernels()) {
     Buffer other(decoded.room);
-    other.size =
-        velkord::DecodeBase64(kernel, text, velkord::Strangers::kTakePlaces, other.bytes.get());
+    other.size = velkord::internal::DecodeBase64(
+        kernel, text, velkord::internal::Strangers::kTakePlaces, other.bytes.get());
     REQUIRE(Same(other.View(), decoded.View()) && other.IsUntouched(other.size));
     Buffer same(encoded.room - 1);
     char* place = reinterpret_cast<char*>(same.bytes.get());
-    same.size =
-        static_cast<uint32_t>(velkord::PutBase64(kernel, in.data(), in.size(), place) - place);
+    same.size = static_cast<uint32_t>(
+        velkord::internal::PutBase64(kernel, in.data(), in.size(), place) - place);
     REQUIRE(Same(same.View(), Input(encoded.bytes.get(), encoded.room - 1)));
   }
 }

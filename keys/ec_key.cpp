@@ -4,7 +4,7 @@
 
 #include "der/node.h"
 
-using namespace velkord;
+using namespace velkord::internal;
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include "platform/memory.h"
 
-namespace velkord {
+namespace velkord::internal {
 
 uint8_t* Scratch::Allocate(size_t size) {
   bytes_ = AllocateBytes(size);
@@ -25,4 +25,4 @@ void Scratch::WipeAndRelease() {
   Release(bytes_);
 }
 
-}  // namespace velkord
+}  // namespace velkord::internal

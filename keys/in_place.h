@@ -8,7 +8,7 @@
 
 #include "der/node.h"
 
-namespace velkord {
+namespace velkord::internal {
 
 // A block that is wiped before it is released.
 class Scratch {
@@ -62,6 +62,6 @@ int32_t WriteInPlace(const Inputs& inputs, uint8_t* out, size_t size, Write writ
   return VELKORD_OK;
 }
 
-}  // namespace velkord
+}  // namespace velkord::internal
 
 #endif  // VELKORD_KEYS_IN_PLACE_H_

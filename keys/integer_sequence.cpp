@@ -2,7 +2,7 @@
 
 #include "keys/in_place.h"
 
-namespace velkord {
+namespace velkord::internal {
 
 int32_t WriteIntegerSequence(std::span<const Bytes> magnitudes, uint8_t* out, uint32_t* outLength) {
   uint64_t length = 0;
@@ -23,4 +23,4 @@ int32_t WriteIntegerSequence(std::span<const Bytes> magnitudes, uint8_t* out, ui
   return VELKORD_OK;
 }
 
-}  // namespace velkord
+}  // namespace velkord::internal

@@ -3,7 +3,7 @@
 #include "keys/in_place.h"
 #include "keys/integer_sequence.h"
 
-using namespace velkord;
+using namespace velkord::internal;
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include "der/integer.h"
 #include "x509/record.h"
 
-using namespace velkord;
+using namespace velkord::internal;
 
 namespace {
 
@@ -44,7 +44,7 @@ int32_t ASN1_PKCS6_SetCertificateInfoAttributes(ExtendedCertificateInfo* record,
 }
 
 int32_t ASN1_PKCS6_CertificateInfoWriteData(const ExtendedCertificateInfo* record, Anybuf** out) {
-  if (record == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
+  if (record == nullptr) return VELKORD_NULL_ARGUMENT;
   const IntegerElement version(record->version);
   return JoinFields({version.Whole(), record->certificate, record->attributes}, out);
 }

@@ -3,7 +3,7 @@
 #include "der/tagging.h"
 #include "x509/record.h"
 
-using namespace velkord;
+using namespace velkord::internal;
 
 namespace {
 
@@ -62,7 +62,7 @@ int32_t ASN1_PKCS10SetAttributes(PKCS10* record, const Anybuf* value) {
 }
 
 int32_t ASN1_PKCS10WriteData(const PKCS10* record, Anybuf** out) {
-  if (record == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
+  if (record == nullptr) return VELKORD_NULL_ARGUMENT;
   return JoinFields(
       {record->version, record->subject, record->subjectPublicKeyInfo, record->attributes}, out);
 }

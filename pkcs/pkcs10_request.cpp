@@ -1,7 +1,7 @@
 // The signed PKCS#10 certification request.
 #include "x509/signed_record.h"
 
-using namespace velkord;
+using namespace velkord::internal;
 
 namespace {
 

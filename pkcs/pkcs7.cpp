@@ -3,7 +3,7 @@
 #include "der/tagging.h"
 #include "x509/record.h"
 
-using namespace velkord;
+using namespace velkord::internal;
 
 namespace {
 
@@ -37,7 +37,7 @@ int32_t ASN1_PKCS7_SetContent(PKCS7Context* record, const Anybuf* value) {
 }
 
 int32_t ASN1_PKCS7_WriteData(const PKCS7Context* record, Anybuf** out) {
-  if (record == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
+  if (record == nullptr) return VELKORD_NULL_ARGUMENT;
   return JoinFields({record->contentType, FieldIfSet(record->content)}, out);
 }
 

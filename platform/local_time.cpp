@@ -2,7 +2,7 @@
 
 #include <cstdlib>
 
-namespace velkord {
+namespace velkord::internal {
 
 void FollowZone() {
   if (std::getenv("TZ") == nullptr) return;  // NOLINT(concurrency-mt-unsafe)
@@ -23,4 +23,4 @@ bool LocalFields(int32_t seconds, std::tm& fields) {
 #endif
 }
 
-}  // namespace velkord
+}  // namespace velkord::internal

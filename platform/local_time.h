@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <ctime>
 
-namespace velkord {
+namespace velkord::internal {
 
 // Has the C library take over the zone that TZ names, if it is set: alone it may keep the zone of
 // its first look. Without TZ it is not asked, since it would ask the system every time.
@@ -14,6 +14,6 @@ void FollowZone();
 // False when the platform refuses a time, of which it must take 0 to 2147483647.
 bool LocalFields(int32_t seconds, std::tm& fields);
 
-}  // namespace velkord
+}  // namespace velkord::internal
 
 #endif  // VELKORD_PLATFORM_LOCAL_TIME_H_

@@ -8,7 +8,7 @@
 #include <cstdlib>
 #include <cstring>
 
-namespace velkord {
+namespace velkord::internal {
 
 // NOLINTBEGIN(cppcoreguidelines-no-malloc,cppcoreguidelines-owning-memory): here, and nowhere else.
 
@@ -38,6 +38,6 @@ inline void Release(void* block) { std::free(block); }
 
 // NOLINTEND(cppcoreguidelines-no-malloc,cppcoreguidelines-owning-memory)
 
-}  // namespace velkord
+}  // namespace velkord::internal
 
 #endif  // VELKORD_PLATFORM_MEMORY_H_

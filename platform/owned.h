@@ -2,7 +2,7 @@
 #ifndef VELKORD_PLATFORM_OWNED_H_
 #define VELKORD_PLATFORM_OWNED_H_
 
-namespace velkord {
+namespace velkord::internal {
 
 // Owns an object, or none, that `kFree` releases.
 template <typename Object, void (*kFree)(Object*)>
@@ -29,6 +29,6 @@ class Owned {
   Object* object_ = nullptr;
 };
 
-}  // namespace velkord
+}  // namespace velkord::internal
 
 #endif  // VELKORD_PLATFORM_OWNED_H_

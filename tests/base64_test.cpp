@@ -12,7 +12,7 @@
 
 namespace {
 
-using namespace velkord;
+using namespace velkord::internal;
 using Octets = std::vector<uint8_t>;
 
 constexpr size_t kLongest = 400;

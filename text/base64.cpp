@@ -4,7 +4,7 @@
 #include "Velkord.h"
 #include "text/base64_alphabet.h"
 
-namespace velkord {
+namespace velkord::internal {
 
 namespace {
 
@@ -123,9 +123,9 @@ uint32_t DecodeBase64(const Base64Kernel& kernel, std::string_view text, Strange
   return static_cast<uint32_t>(place - out);
 }
 
-}  // namespace velkord
+}  // namespace velkord::internal
 
-using namespace velkord;
+using namespace velkord::internal;
 
 int32_t base64_encode(const uint8_t* in, uint32_t length, char* out) {
   *PutBase64(Base64Kernels().front(), in, length, out) = '\0';

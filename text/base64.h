@@ -8,7 +8,7 @@
 
 #include "text/base64_kernel.h"
 
-namespace velkord {
+namespace velkord::internal {
 
 // Writes the characters of `size` bytes, padding included, and gives the place behind them.
 char* PutBase64(const Base64Kernel& kernel, const uint8_t* in, size_t size, char* place);
@@ -26,6 +26,6 @@ enum class Strangers {
 uint32_t DecodeBase64(const Base64Kernel& kernel, std::string_view text, Strangers strangers,
                       uint8_t* out);
 
-}  // namespace velkord
+}  // namespace velkord::internal
 
 #endif  // VELKORD_TEXT_BASE64_H_

@@ -5,7 +5,7 @@
 #include <array>
 #include <cstdint>
 
-namespace velkord {
+namespace velkord::internal {
 
 inline constexpr char kBase64Alphabet[] =
     "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
@@ -26,6 +26,6 @@ inline constexpr std::array<uint8_t, 256> kBase64Values = [] {
 
 inline uint8_t Base64Value(char c) { return kBase64Values[static_cast<uint8_t>(c)]; }
 
-}  // namespace velkord
+}  // namespace velkord::internal
 
 #endif  // VELKORD_TEXT_BASE64_ALPHABET_H_

@@ -6,7 +6,7 @@
 #include "text/base64_blocks.h"
 #include "text/base64_kernel.h"
 
-namespace velkord {
+namespace velkord::internal {
 
 namespace {
 
@@ -65,4 +65,4 @@ size_t DecodeBase64Avx2(const char* in, size_t size, uint8_t* out) {
   return DecodeBlocks<Avx2>(in, size, out);
 }
 
-}  // namespace velkord
+}  // namespace velkord::internal

@@ -16,7 +16,7 @@
 #include "text/base64_alphabet.h"
 #include "text/base64_kernel.h"
 
-namespace velkord {
+namespace velkord::internal {
 
 inline constexpr size_t kBlockBytes = 24;
 inline constexpr size_t kBlockCharacters = 32;
@@ -194,6 +194,6 @@ size_t DecodeBlocks(const char* in, size_t size, uint8_t* out) {
   return taken;
 }
 
-}  // namespace velkord
+}  // namespace velkord::internal
 
 #endif  // VELKORD_TEXT_BASE64_BLOCKS_H_

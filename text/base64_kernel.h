@@ -6,13 +6,14 @@
 #include <cstdint>
 #include <span>
 
-namespace velkord {
+namespace velkord::internal {
 
 // A full line of PEM text, which ends with CR LF.
 inline constexpr size_t kLineBytes = 48;
 inline constexpr size_t kLineCharacters = 64;
 
-inline char* PutLineEnd(char* place) {
+// Of internal linkage, so that no other file runs what is compiled for an instruction set.
+static inline char* PutLineEnd(char* place) {
   *place++ = '\r';
   *place++ = '\n';
   return place;
@@ -44,6 +45,6 @@ void EncodeBase64LinesSsse3(const uint8_t* in, size_t lines, char* out);
 size_t DecodeBase64Ssse3(const char* in, size_t size, uint8_t* out);
 #endif
 
-}  // namespace velkord
+}  // namespace velkord::internal
 
 #endif  // VELKORD_TEXT_BASE64_KERNEL_H_

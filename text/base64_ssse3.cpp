@@ -4,7 +4,7 @@
 #include "text/base64_blocks.h"
 #include "text/base64_kernel.h"
 
-namespace velkord {
+namespace velkord::internal {
 
 namespace {
 
@@ -89,4 +89,4 @@ size_t DecodeBase64Ssse3(const char* in, size_t size, uint8_t* out) {
   return DecodeBlocks<Ssse3>(in, size, out);
 }
 
-}  // namespace velkord
+}  // namespace velkord::internal

@@ -10,7 +10,7 @@
 #include "text/gb2312_index.h"
 #include "text/utf8.h"
 
-using namespace velkord;
+using namespace velkord::internal;
 
 namespace {
 

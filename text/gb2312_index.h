@@ -8,7 +8,7 @@
 
 #include "text/gb2312_table.h"
 
-namespace velkord {
+namespace velkord::internal {
 
 // A code in the order of its bytes; both are 0 where there is none.
 struct Gb2312Code {
@@ -149,6 +149,6 @@ class Gb2312Index {
 inline constexpr Gb2312CodePoints kGb2312CodePoints;
 inline constexpr Gb2312Index kGb2312Index;
 
-}  // namespace velkord
+}  // namespace velkord::internal
 
 #endif  // VELKORD_TEXT_GB2312_INDEX_H_

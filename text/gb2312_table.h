@@ -3,7 +3,7 @@
 #ifndef VELKORD_TEXT_GB2312_TABLE_H_
 #define VELKORD_TEXT_GB2312_TABLE_H_
 
-namespace velkord {
+namespace velkord::internal {
 
 inline constexpr int kGb2312Rows = 87;
 inline constexpr int kGb2312Cells = 94;
@@ -100,6 +100,6 @@ inline constexpr char16_t kGb2312Characters[kGb2312Rows][kGb2312Cells + 1] = {
 };
 // clang-format on
 
-}  // namespace velkord
+}  // namespace velkord::internal
 
 #endif  // VELKORD_TEXT_GB2312_TABLE_H_

@@ -7,7 +7,7 @@
 
 namespace {
 
-using namespace velkord;
+using namespace velkord::internal;
 
 constexpr uint32_t kLengthLimit = 1U << 30;
 constexpr size_t kMarkerDashes = 5;

@@ -39,7 +39,7 @@ int32_t uniToUTF8(uint8_t* out, int32_t outSize, uint32_t code) {
 
 int32_t utf8ToUni(const uint8_t* in, int32_t inLen, uint32_t* code) {
   if (inLen < 1) return 0;
-  const auto length = static_cast<int32_t>(velkord::Utf8Length(in[0]));
+  const auto length = static_cast<int32_t>(velkord::internal::Utf8Length(in[0]));
   if (length == 0) return kNoFirstByte;
   if (inLen < length) return kCutOff;
   uint32_t value = length == 1 ? in[0] : in[0] & (0x7FU >> length);

@@ -5,7 +5,7 @@
 #include <bit>
 #include <cstdint>
 
-namespace velkord {
+namespace velkord::internal {
 
 // Number of bytes of the form that a first byte opens; 0 for a byte that opens none.
 constexpr uint32_t Utf8Length(uint8_t first) {
@@ -14,6 +14,6 @@ constexpr uint32_t Utf8Length(uint8_t first) {
   return ones == 1 || ones > 6 ? 0 : static_cast<uint32_t>(ones);
 }
 
-}  // namespace velkord
+}  // namespace velkord::internal
 
 #endif  // VELKORD_TEXT_UTF8_H_

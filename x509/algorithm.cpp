@@ -3,7 +3,7 @@
 #include "der/node.h"
 #include "platform/memory.h"
 
-using namespace velkord;
+using namespace velkord::internal;
 
 namespace {
 

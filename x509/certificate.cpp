@@ -1,7 +1,7 @@
 // The signed certificate: made, written and decoded.
 #include "x509/signed_record.h"
 
-using namespace velkord;
+using namespace velkord::internal;
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include "der/forward.h"
 #include "x509/record.h"
 
-namespace velkord {
+namespace velkord::internal {
 
 int32_t OpenExtension(Bytes in, ExtensionView& extension) {
   return DerElements::Read(in, kSequenceType, [&](DerElements& elements) -> int32_t {
@@ -23,13 +23,12 @@ int32_t OpenExtension(Bytes in, ExtensionView& extension) {
   });
 }
 
-}  // namespace velkord
+}  // namespace velkord::internal
 
-using namespace velkord;
+using namespace velkord::internal;
 
 int32_t ASN1_SetExtension(const Anybuf* oid, const Anybuf* critical, const Anybuf* value,
                           Anybuf** out) {
-  if (out == nullptr) return VELKORD_NULL_ARGUMENT;
   return JoinFields({oid, FieldIfSet(critical), value}, out);
 }
 

@@ -4,7 +4,7 @@
 
 #include "der/node.h"
 
-namespace velkord {
+namespace velkord::internal {
 
 struct ExtensionView {
   Bytes oid;       // Content octets of the OBJECT IDENTIFIER.
@@ -17,6 +17,6 @@ struct ExtensionView {
 // 0; -1, -2 or -7 from the SEQUENCE; -1 for a missing element; -2 for a BOOLEAN without content.
 int32_t OpenExtension(Bytes in, ExtensionView& extension);
 
-}  // namespace velkord
+}  // namespace velkord::internal
 
 #endif  // VELKORD_X509_EXTENSION_H_

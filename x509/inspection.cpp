@@ -10,7 +10,7 @@
 #include "x509/name.h"
 #include "x509/record.h"
 
-using namespace velkord;
+using namespace velkord::internal;
 
 namespace {
 

@@ -2,10 +2,10 @@
 #include "der/forward.h"
 #include "x509/record.h"
 
-using namespace velkord;
+using namespace velkord::internal;
 
 int32_t ASN1_SetRSAPublicKey(const Anybuf* modulus, const Anybuf* exponent, Anybuf** out) {
-  return ASN1_SetValidity(modulus, exponent, out);
+  return JoinPair(modulus, exponent, out);
 }
 
 int32_t ASN1_GetRSAPublicKey(const Anybuf* source, Anybuf** outModulus, Anybuf** outExponent) {

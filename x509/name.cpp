@@ -5,7 +5,7 @@
 #include "der/object_id.h"
 #include "x509/record.h"
 
-namespace velkord {
+namespace velkord::internal {
 
 int32_t OpenAttribute(Bytes in, AttributeView& attribute) {
   return DerElements::Read(in, kSequenceType, [&](DerElements& elements) -> int32_t {
@@ -22,9 +22,9 @@ int32_t OpenFirstAttribute(Bytes in, AttributeView& attribute) {
   });
 }
 
-}  // namespace velkord
+}  // namespace velkord::internal
 
-using namespace velkord;
+using namespace velkord::internal;
 
 namespace {
 
@@ -48,8 +48,8 @@ int32_t ASN1_SetAttributeTypeAndValue(const Anybuf* type, const Anybuf* value,
 }
 
 int32_t ASN1_GetDerAttributeTypeAndValue(const AttributeTypeAndValue* record, Anybuf** out) {
-  if (record == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
-  return JoinFields({record->type, record->value}, out);
+  if (record == nullptr) return VELKORD_NULL_ARGUMENT;
+  return JoinPair(record->type, record->value, out);
 }
 
 int32_t ASN1_DecodeDerAttributeTypeAndValue(const Anybuf* source, Anybuf** outType,

@@ -4,7 +4,7 @@
 
 #include "der/node.h"
 
-namespace velkord {
+namespace velkord::internal {
 
 struct AttributeView {
   Bytes type;  // Content octets of the OBJECT IDENTIFIER.
@@ -18,6 +18,6 @@ int32_t OpenAttribute(Bytes in, AttributeView& attribute);
 // Opens the first attribute of the SET of a relative name. Codes as above, -1 for an empty SET.
 int32_t OpenFirstAttribute(Bytes in, AttributeView& attribute);
 
-}  // namespace velkord
+}  // namespace velkord::internal
 
 #endif  // VELKORD_X509_NAME_H_

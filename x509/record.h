@@ -7,7 +7,7 @@
 #include "der/node.h"
 #include "platform/memory.h"
 
-namespace velkord {
+namespace velkord::internal {
 
 // Makes a record with all fields 0 or null. 0, -7000 or -8.
 template <typename Record>
@@ -90,8 +90,10 @@ inline Field OptionalField(uint32_t flag, const Anybuf* node) {
   return flag == 1 ? Field(node) : Field(Bytes());
 }
 
-// Makes the SEQUENCE of a record's fields. 0, -1, or -8 when a field is not set.
+// Makes the SEQUENCE of a record's fields. 0, -1, or -8 when a field is not set or `out` is null.
 int32_t JoinFields(std::initializer_list<Field> fields, Anybuf** out);
+// The same of two elements, both required.
+int32_t JoinPair(const Anybuf* first, const Anybuf* second, Anybuf** out);
 
 // Makes a record of the bytes of a SEQUENCE, filled from its elements. 0, -1, -2, -7, -7000, -8, or
 // the code of `fill`.
@@ -106,6 +108,6 @@ int32_t DecodeRecord(const uint8_t* bytes, uint32_t length, Record** out, Fill f
   return VELKORD_OK;
 }
 
-}  // namespace velkord
+}  // namespace velkord::internal
 
 #endif  // VELKORD_X509_RECORD_H_

@@ -6,7 +6,7 @@
 
 #include "x509/record.h"
 
-namespace velkord {
+namespace velkord::internal {
 
 template <typename Record, Anybuf* Record::*kSigned, Anybuf* Record::*kAlgorithm,
           Anybuf* Record::*kSignature>
@@ -26,7 +26,7 @@ struct SignedRecord {
   }
 
   static int32_t WriteData(const Record* record, Anybuf** out) {
-    if (record == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
+    if (record == nullptr) return VELKORD_NULL_ARGUMENT;
     return JoinFields({record->*kSigned, record->*kAlgorithm, record->*kSignature}, out);
   }
 
@@ -50,6 +50,6 @@ struct SignedRecord {
   }
 };
 
-}  // namespace velkord
+}  // namespace velkord::internal
 
 #endif  // VELKORD_X509_SIGNED_RECORD_H_

@@ -5,7 +5,7 @@
 #include "der/tagging.h"
 #include "x509/record.h"
 
-using namespace velkord;
+using namespace velkord::internal;
 
 namespace {
 
@@ -163,7 +163,7 @@ int32_t ASN1_TBSCertificateSetExtensions(TBSCertificate* record, const Anybuf* v
 }
 
 int32_t ASN1_TBSCertificateWriteData(const TBSCertificate* record, Anybuf** out) {
-  if (record == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
+  if (record == nullptr) return VELKORD_NULL_ARGUMENT;
   return JoinFields({record->versionNode, record->serialNumber, record->signature, record->issuer,
                      record->validity, record->subject, record->subjectPublicKeyInfo,
                      OptionalField(record->hasIssuerUniqueID, record->issuerUniqueID),

@@ -3,11 +3,10 @@
 #include "der/time.h"
 #include "x509/record.h"
 
-using namespace velkord;
+using namespace velkord::internal;
 
 int32_t ASN1_SetValidity(const Anybuf* notBefore, const Anybuf* notAfter, Anybuf** out) {
-  if (out == nullptr) return VELKORD_NULL_ARGUMENT;
-  return JoinFields({notBefore, notAfter}, out);
+  return JoinPair(notBefore, notAfter, out);
 }
 
 int32_t ASN1_GetValidity(const Anybuf* source, int32_t* notBefore, int32_t* notAfter) {
