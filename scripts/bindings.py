@@ -1,7 +1,7 @@
 """Writes the declarations of the library for C#, Delphi and Python from its header.
 
-They are examples/csharp/Velkord.cs, examples/delphi/Velkord.pas and
-examples/python/velkord_api.py.
+They are bindings/csharp/Velkord.cs, bindings/delphi/Velkord.pas and
+bindings/python/velkord_api.py.
 """
 import argparse
 import difflib
@@ -179,7 +179,7 @@ def separated(parts, mark):
 
 
 class CSharp:
-    path = ROOT / "examples" / "csharp" / "Velkord.cs"
+    path = ROOT / "bindings" / "csharp" / "Velkord.cs"
     numbers = {
         "int32_t": "int", "uint32_t": "uint", "uint8_t": "byte", "uintptr_t": "UIntPtr",
         "void": "void",
@@ -257,7 +257,7 @@ class CSharp:
 
 
 class Delphi:
-    path = ROOT / "examples" / "delphi" / "Velkord.pas"
+    path = ROOT / "bindings" / "delphi" / "Velkord.pas"
     numbers = {
         "int32_t": "Integer", "uint32_t": "Cardinal", "uint8_t": "Byte",
         "uintptr_t": "NativeUInt", "char": "AnsiChar",
@@ -341,7 +341,7 @@ class Delphi:
 
 
 class Python:
-    path = ROOT / "examples" / "python" / "velkord_api.py"
+    path = ROOT / "bindings" / "python" / "velkord_api.py"
     numbers = {
         "int32_t": "c_int32", "uint32_t": "c_uint32", "uint8_t": "c_uint8",
         "uintptr_t": "c_size_t", "char": "c_char",

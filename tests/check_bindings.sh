@@ -10,9 +10,9 @@ build=$(cd "$1" && pwd)
 names=$root/tests/exported_names.txt
 layout=$root/der/record_layout.cpp
 bundle=/etc/ssl/certs/ca-certificates.crt
-csharp=$root/examples/csharp/Velkord.cs
-delphi=$root/examples/delphi
-python=$root/examples/python
+csharp=$root/bindings/csharp/Velkord.cs
+delphi=$root/bindings/delphi
+python=$root/bindings/python
 inspect=$python/inspect_certificate.py
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
