@@ -1,0 +1,123 @@
+#include "structures.h"
+
+#include <system_error>
+
+#include "text.h"
+
+using velkord::Bytes, velkord::Chain, velkord::Check, velkord::Errc, velkord::Length, velkord::Make,
+    velkord::NodePtr, velkord::Out;
+
+namespace {
+
+// Reduced tags.
+constexpr uint32_t kObjectIdTag = 6;
+constexpr uint32_t kUtcTimeTag = 23;
+constexpr uint32_t kGeneralizedTimeTag = 24;
+constexpr uint32_t kBmpStringTag = 30;
+
+std::vector<uint8_t> StringContent(const Anybuf& node, const char* step) {
+  if (node.dataType != kBmpStringTag) return Content(node, step);
+  std::vector<uint8_t> text(node.dataLen);
+  uint32_t length = 0;
+  Check(ASN1_ReadBmpStringToBytes(&node, text.data(), &length), step);
+  text.resize(length);
+  return text;
+}
+
+}  // namespace
+
+std::vector<uint8_t> Content(const Anybuf& node, const char* step) {
+  std::vector<uint8_t> content(node.dataLen);
+  uint32_t length = 0;
+  Check(ASN1_ReadOctetStringToBytes(&node, content.data(), &length), step);
+  content.resize(length);
+  return content;
+}
+
+NodePtr Element(Bytes der, const char* step) {
+  return Make(step, ASN1_WriteExplicitFromDERData, der.data(), Length(der));
+}
+
+NodePtr SplitPair(const Anybuf& sequence, const char* step) {
+  NodePtr elements = Make(step, ASN1_ReadSequence, &sequence);
+  if (elements == nullptr || elements->next == nullptr) {
+    throw std::system_error(Errc::kFailure, step);
+  }
+  return elements;
+}
+
+std::string ObjectId(const Anybuf& node, const char* step) {
+  if (node.dataType != kObjectIdTag) throw std::system_error(Errc::kWrongTag, step);
+  return ObjectIdText(Content(node, step));
+}
+
+// Read from the text itself: the library's own reader gives local time and ends in 2038.
+std::string TimeText(const Anybuf& node, const char* step) {
+  const bool isUtcTime = node.dataType == kUtcTimeTag;
+  if (!isUtcTime && node.dataType != kGeneralizedTimeTag) {
+    throw std::system_error(Errc::kWrongTag, step);
+  }
+  const std::vector<uint8_t> content = Content(node, step);
+  std::string text(content.begin(), content.end());
+  const size_t digits = isUtcTime ? 12 : 14;
+  if (text.size() != digits + 1 || text.back() != 'Z' ||
+      text.find_first_not_of("0123456789") != digits) {
+    throw std::system_error(Errc::kBadTime, step);
+  }
+  // Two-digit years run from 1950 to 2049.
+  if (isUtcTime) text.insert(0, text[0] < '5' ? "20" : "19");
+  return text.substr(0, 4) + '-' + text.substr(4, 2) + '-' + text.substr(6, 2) + ' ' +
+         text.substr(8, 2) + ':' + text.substr(10, 2) + ':' + text.substr(12, 2) + " UTC";
+}
+
+std::string AlgorithmText(const Anybuf& algorithm) {
+  NodePtr id;
+  Check(ASN1_GetAlgorithmIdentifier(&algorithm, Out(id), nullptr, nullptr), "open an algorithm");
+  return ObjectId(*id, "read an algorithm");
+}
+
+std::string KeyAlgorithmText(const Anybuf& keyInfo) {
+  NodePtr algorithm;
+  NodePtr key;
+  Check(ASN1_GetSubjectPublicKeyInfo(&keyInfo, Out(algorithm), Out(key)), "open the public key");
+  return AlgorithmText(*algorithm);
+}
+
+void PutName(std::ostream& out, const Anybuf& name) {
+  const NodePtr relativeNames = Make("split a name", ASN1_ReadDerName, &name);
+  for (const Anybuf& relative : Chain(relativeNames.get())) {
+    const NodePtr attributes =
+        Make("split a relative name", ASN1_ReadRelativeDistinguishedName, &relative);
+    for (const Anybuf& attribute : Chain(attributes.get())) {
+      const NodePtr type = SplitPair(attribute, "split an attribute of a name");
+      out << "    " << ObjectId(*type, "read the type of an attribute of a name") << ": "
+          << EscapedText(StringContent(*type->next, "read an attribute of a name")) << '\n';
+    }
+  }
+}
+
+std::vector<Extension> ReadExtensions(const Anybuf& list) {
+  std::vector<Extension> extensions;
+  const NodePtr elements = Make("split the extensions", ASN1_ReadExtensions, &list);
+  for (const Anybuf& element : Chain(elements.get())) {
+    NodePtr id;
+    NodePtr critical;
+    NodePtr value;
+    Check(ASN1_GetExtension(&element, Out(id), Out(critical), Out(value)), "open an extension");
+    uint8_t isCritical = 0;
+    if (critical != nullptr) {
+      Check(ASN1_ReadBoolean(critical.get(), &isCritical), "read an extension's critical flag");
+    }
+    extensions.push_back({.id = ObjectId(*id, "read an extension's type"),
+                          .isCritical = isCritical != 0,
+                          .value = Content(*value, "read an extension's value")});
+  }
+  return extensions;
+}
+
+void PutExtensions(std::ostream& out, const std::vector<Extension>& list, std::string_view indent) {
+  for (const Extension& extension : list) {
+    out << indent << extension.id << (extension.isCritical ? ", critical, " : ", ")
+        << extension.value.size() << " bytes\n";
+  }
+}

@@ -1,0 +1,46 @@
+// Structures that stand in certificates, lists, requests and keys, read and shown. Each function
+// throws std::runtime_error naming the step that failed and its code.
+#ifndef VELKORD_TOOLS_INSPECT_STRUCTURES_H_
+#define VELKORD_TOOLS_INSPECT_STRUCTURES_H_
+
+#include <ostream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "velkord.hpp"
+
+// The content of a TLV node: of a BIT STRING without its unused-bits octet, of an INTEGER without
+// the zero octet that only keeps it positive.
+std::vector<uint8_t> Content(const Anybuf& node, const char* step);
+
+// A TLV node over a whole element.
+velkord::NodePtr Element(velkord::Bytes der, const char* step);
+
+// The chain of a SEQUENCE of at least two elements.
+velkord::NodePtr SplitPair(const Anybuf& sequence, const char* step);
+
+// As ObjectIdText has it.
+std::string ObjectId(const Anybuf& node, const char* step);
+
+std::string TimeText(const Anybuf& node, const char* step);
+
+std::string AlgorithmText(const Anybuf& algorithm);
+
+std::string KeyAlgorithmText(const Anybuf& keyInfo);
+
+// A line for each attribute.
+void PutName(std::ostream& out, const Anybuf& name);
+
+struct Extension {
+  std::string id;
+  bool isCritical = false;
+  std::vector<uint8_t> value;
+};
+
+std::vector<Extension> ReadExtensions(const Anybuf& list);
+
+// A line for each extension, after `indent`.
+void PutExtensions(std::ostream& out, const std::vector<Extension>& list, std::string_view indent);
+
+#endif  // VELKORD_TOOLS_INSPECT_STRUCTURES_H_

@@ -1,0 +1,133 @@
+#include "text.h"
+
+#include <algorithm>
+#include <limits>
+#include <string_view>
+
+using velkord::Bytes;
+
+namespace {
+
+constexpr std::string_view kKnownObjectIds[] = {
+    // Attributes of names.
+    "0.9.2342.19200300.100.1.1 userId", "0.9.2342.19200300.100.1.25 domainComponent",
+    "1.2.840.113549.1.9.1 emailAddress", "2.5.4.3 commonName", "2.5.4.4 surname",
+    "2.5.4.5 serialNumber", "2.5.4.6 countryName", "2.5.4.7 localityName",
+    "2.5.4.8 stateOrProvinceName", "2.5.4.9 streetAddress", "2.5.4.10 organizationName",
+    "2.5.4.11 organizationalUnitName", "2.5.4.12 title", "2.5.4.15 businessCategory",
+    "2.5.4.17 postalCode", "2.5.4.42 givenName", "2.5.4.97 organizationIdentifier",
+    // Keys.
+    "1.2.840.10040.4.1 dsa", "1.2.840.10045.2.1 ecPublicKey", "1.2.840.113549.1.1.1 rsaEncryption",
+    "1.3.101.112 Ed25519", "1.3.101.113 Ed448",
+    // Curves.
+    "1.2.156.10197.1.301 sm2", "1.2.840.10045.3.1.7 prime256v1", "1.3.132.0.34 secp384r1",
+    "1.3.132.0.35 secp521r1", "1.3.132.0.10 secp256k1",
+    // Signatures.
+    "1.2.156.10197.1.501 sm2-with-sm3", "1.2.840.10040.4.3 dsa-with-sha1",
+    "1.2.840.10045.4.1 ecdsa-with-SHA1", "1.2.840.10045.4.3.2 ecdsa-with-SHA256",
+    "1.2.840.10045.4.3.3 ecdsa-with-SHA384", "1.2.840.10045.4.3.4 ecdsa-with-SHA512",
+    "1.2.840.113549.1.1.4 md5WithRSAEncryption", "1.2.840.113549.1.1.5 sha1WithRSAEncryption",
+    "1.2.840.113549.1.1.10 rsassaPss", "1.2.840.113549.1.1.11 sha256WithRSAEncryption",
+    "1.2.840.113549.1.1.12 sha384WithRSAEncryption",
+    "1.2.840.113549.1.1.13 sha512WithRSAEncryption",
+    // Contents of PKCS#7.
+    "1.2.156.10197.6.1.4.2.1 sm2-data", "1.2.156.10197.6.1.4.2.2 sm2-signedData",
+    "1.2.156.10197.6.1.4.2.3 sm2-envelopedData", "1.2.840.113549.1.7.1 data",
+    "1.2.840.113549.1.7.2 signedData", "1.2.840.113549.1.7.3 envelopedData",
+    "1.2.840.113549.1.7.4 signedAndEnvelopedData", "1.2.840.113549.1.7.5 digestedData",
+    "1.2.840.113549.1.7.6 encryptedData",
+    // Attributes of requests.
+    "1.2.840.113549.1.9.2 unstructuredName", "1.2.840.113549.1.9.7 challengePassword",
+    "1.2.840.113549.1.9.14 extensionRequest",
+    // Extensions.
+    "1.3.6.1.4.1.11129.2.4.2 signedCertificateTimestampList",
+    "1.3.6.1.5.5.7.1.1 authorityInfoAccess", "1.3.6.1.5.5.7.1.3 qcStatements",
+    "2.16.840.1.113730.1.1 netscapeCertType", "2.16.840.1.113730.1.13 netscapeComment",
+    "2.5.29.9 subjectDirectoryAttributes", "2.5.29.14 subjectKeyIdentifier", "2.5.29.15 keyUsage",
+    "2.5.29.16 privateKeyUsagePeriod", "2.5.29.17 subjectAltName", "2.5.29.18 issuerAltName",
+    "2.5.29.19 basicConstraints", "2.5.29.20 cRLNumber", "2.5.29.21 reasonCode",
+    "2.5.29.24 invalidityDate", "2.5.29.27 deltaCRLIndicator", "2.5.29.28 issuingDistributionPoint",
+    "2.5.29.29 certificateIssuer", "2.5.29.30 nameConstraints", "2.5.29.31 cRLDistributionPoints",
+    "2.5.29.32 certificatePolicies", "2.5.29.33 policyMappings", "2.5.29.35 authorityKeyIdentifier",
+    "2.5.29.36 policyConstraints", "2.5.29.37 extKeyUsage", "2.5.29.46 freshestCRL",
+    "2.5.29.54 inhibitAnyPolicy"};
+
+bool IsBetween(uint32_t code, uint32_t first, uint32_t last) {
+  return first <= code && code <= last;
+}
+
+// Characters that move the cursor, end the line or reorder the text around them would let a
+// certificate forge what its reader sees.
+bool IsShown(uint32_t code) {
+  if (code < 0x20 || IsBetween(code, 0x7F, 0x9F) || code == '\\') return false;
+  if (IsBetween(code, 0x200E, 0x200F) || IsBetween(code, 0x2028, 0x202E)) return false;
+  return !IsBetween(code, 0x2066, 0x2069);
+}
+
+// Empty when the octets are no identifier or when an arc needs more than 64 bits.
+std::string DottedText(Bytes octets) {
+  std::string text;
+  uint64_t arc = 0;
+  bool arcContinues = false;
+  for (const uint8_t octet : octets) {
+    if (arc > std::numeric_limits<uint64_t>::max() >> 7) return {};
+    arc = arc << 7 | (octet & 0x7F);
+    arcContinues = (octet & 0x80) != 0;
+    if (arcContinues) continue;
+    // The first two arcs share a number, and the first of them is at most 2.
+    if (text.empty()) {
+      const uint64_t first = std::min<uint64_t>(arc / 40, 2);
+      text = std::to_string(first);
+      arc -= first * 40;
+    }
+    text += '.' + std::to_string(arc);
+    arc = 0;
+  }
+  return arcContinues ? std::string() : text;
+}
+
+}  // namespace
+
+size_t ReadCharacter(Bytes text, uint32_t& code) {
+  // The longest form has six bytes.
+  const auto available = static_cast<int32_t>(std::min<size_t>(text.size(), 6));
+  uint32_t read = 0;
+  const int32_t size = utf8ToUni(text.data(), available, &read);
+  if (size <= 0 || read > 0x10FFFF || IsBetween(read, 0xD800, 0xDFFF)) return 0;
+  code = read;
+  return static_cast<size_t>(size);
+}
+
+std::string EscapedText(Bytes text) {
+  std::string escaped;
+  while (!text.empty()) {
+    uint32_t code = 0;
+    const size_t size = ReadCharacter(text, code);
+    const Bytes form = text.first(std::max<size_t>(size, 1));
+    if (size != 0 && IsShown(code)) {
+      escaped.append(form.begin(), form.end());
+    } else {
+      for (const uint8_t byte : form) escaped += "\\x" + HexText({&byte, 1});
+    }
+    text = text.subspan(form.size());
+  }
+  return escaped;
+}
+
+std::string HexText(Bytes bytes) {
+  constexpr char kDigits[] = "0123456789abcdef";
+  std::string text;
+  for (const uint8_t byte : bytes) {
+    text += kDigits[byte >> 4];
+    text += kDigits[byte & 0x0F];
+  }
+  return text;
+}
+
+std::string ObjectIdText(Bytes octets) {
+  const std::string text = DottedText(octets);
+  if (text.empty()) return "octets " + HexText(octets);
+  const auto* known = std::ranges::find_if(
+      kKnownObjectIds, [&](std::string_view entry) { return entry.starts_with(text + ' '); });
+  return known == std::end(kKnownObjectIds) ? text : std::string(*known);
+}
