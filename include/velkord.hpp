@@ -1,12 +1,12 @@
 /// @file velkord.hpp
 /// An optional C++20 interface, this header alone: owning handles, views, ranges and error codes
-/// for calling the functions of Velkord.h, which stay in sight.
+/// for the functions of Velkord.h, which are still called by name.
 ///
-/// **Memory.** Nothing here allocates. What does is the standard library alone, when an error is
-/// told: `std::error_category::message` has to return a `std::string`, and an exception holds one.
+/// **Memory.** Nothing here allocates but the standard library when it reports an error:
+/// `std::error_category::message` has to return a `std::string`, and an exception holds one.
 ///
-/// **Exceptions.** `Check`, `Make` and `Length` throw and nothing else does. Where exceptions are
-/// switched off these three are left out.
+/// **Exceptions.** Only `Check`, `Make` and `Length` throw. Where exceptions are switched off these
+/// three are left out.
 ///
 /// **Threads.** As with the functions themselves, different objects may be used at the same time.
 #ifndef VELKORD_HPP_
@@ -36,7 +36,7 @@ namespace velkord {
 
 /// Releases an object by the Free function of its type.
 struct Free {
-  /// Of a node the whole chain behind it goes too.
+  /// With a node the whole chain after it is released.
   /// @{
   void operator()(Anybuf* chain) const noexcept { ASN1_FreeAnybuf(chain); }
   void operator()(ObjectID* record) const noexcept { ASN1_FreeObjectID(record); }
@@ -63,19 +63,19 @@ struct Free {
   /// @}
 };
 
-/// Owns a node or record. `get()` is what a function takes. `release()` is for what takes an object
-/// over: a field of a record, `next`, and `ASN1_SetAlgorithmIdentifier` as its comment tells.
+/// Owns a node or record. Functions take `get()`. `release()` is for what becomes the new owner: a
+/// field of a record, `next`, and `ASN1_SetAlgorithmIdentifier` as its comment says.
 template <typename Object>
 using Handle = std::unique_ptr<Object, Free>;
 
-/// Owns a node and every node behind it: the head of a chain holds the whole of it.
+/// Owns a node and every node after it: the head of a chain holds all of it.
 using NodePtr = Handle<Anybuf>;
 
-/// Stands for a handle in a call, as its out pointer. `Out` makes it.
+/// The out pointer of a handle in a call, which `Out` makes.
 template <typename Pointer>
 class OutPointer {
  public:
-  /// Both live for the one statement of the call.
+  /// For the one statement of the call.
   explicit OutPointer(Pointer& handle) noexcept : handle_(handle), object_(handle.get()) {}
   ~OutPointer() {
     if (object_ != handle_.get()) handle_.reset(object_);
@@ -93,9 +93,9 @@ class OutPointer {
 };
 
 /// The out pointer of a call, for any `std::unique_ptr`:
-/// `ASN1_ReadSequence(node.get(), Out(children))`. The handle has the new object, and has released
-/// the one before, once the whole statement of the call has ended, and not within it. A call that
-/// fails or writes nothing leaves the handle as it was.
+/// `ASN1_ReadSequence(node.get(), Out(children))`. The handle owns the new object, and has released
+/// the one before, when the whole statement has ended, not earlier. A call that fails or writes
+/// nothing leaves the handle as it was.
 template <typename Pointer>
 [[nodiscard]] OutPointer<Pointer> Out(Pointer& handle) noexcept {
   return OutPointer<Pointer>(handle);
@@ -126,9 +126,9 @@ using Bytes = std::span<const std::uint8_t>;
 // -------------------------------------------------------------------------------------------------
 
 /// The objects of a chain as a range that owns nothing:
-/// `for (const Anybuf& node : velkord::Chain(handle.get()))`. For all that is linked through `next`
-/// to its own type: nodes and the entries of an inspected certificate. A null pointer is a range of
-/// none. Removing or freeing an object makes the iterators at it invalid, as with a list.
+/// `for (const Anybuf& node : velkord::Chain(handle.get()))`. For types with a `next` of their own
+/// type: nodes and the entries of an inspected certificate. A null pointer is an empty range.
+/// Removing or freeing an object makes the iterators at it invalid, as with a list.
 template <typename Link>
 class Chain {
  public:
@@ -146,7 +146,7 @@ class Chain {
 
     /// The end of every chain.
     Iterator() = default;
-    /// At an object.
+    /// At an object, null for the end.
     explicit Iterator(Link* at) noexcept : at_(at) {}
 
     /// What a forward iterator does.
@@ -170,7 +170,7 @@ class Chain {
     Link* at_ = nullptr;
   };
 
-  /// From an object on, null for none.
+  /// From an object on, null for an empty range.
   explicit Chain(Link* head) noexcept : head_(head) {}
 
   /// The range.
@@ -184,7 +184,7 @@ class Chain {
 };
 
 /// Builds a chain. It knows the last node, so that n nodes take n steps; `ASN1_AddSequence` and its
-/// like walk the whole chain, copy the node, and cannot tell that memory ran out.
+/// other names walk the whole chain, copy the node, and do not report that memory ran out.
 class ChainBuilder {
  public:
   /// Appends each of the chains in turn.
@@ -196,7 +196,7 @@ class ChainBuilder {
   ChainBuilder& operator=(const ChainBuilder&) = delete;
   ~ChainBuilder() = default;
 
-  /// Takes a node and all behind it. Null adds nothing.
+  /// Takes a node and all after it. Null adds nothing.
   void Append(NodePtr chain) noexcept {
     Anybuf* const first = chain.get();
     if (first == nullptr) return;
@@ -210,8 +210,8 @@ class ChainBuilder {
     while (last_->next != nullptr) last_ = last_->next;
   }
 
-  /// The first node, null when there is none, which the writers take for a chain without elements.
-  /// Nodes may be changed through it, but not linked otherwise.
+  /// The first node, or null, which the writers take for a chain without elements. Nodes may be
+  /// changed through it, but not linked in another way.
   [[nodiscard]] Anybuf* Head() const noexcept { return head_.get(); }
 
   /// Hands over the chain. The builder is empty then.
@@ -240,14 +240,14 @@ enum class Errc : std::int32_t {
   kOutOfMemory = VELKORD_OUT_OF_MEMORY,
 };
 
-/// The category of all codes of the library. `error_category()` gives the one object of it.
+/// The category of all codes of the library. `error_category()` returns its one object.
 class ErrorCategory final : public std::error_category {
  public:
   /// "Velkord".
   [[nodiscard]] const char* name() const noexcept override { return "Velkord"; }
 
-  /// The code's name in Velkord.h and its number, `VELKORD_WRONG_TAG (-7)`: what it tells depends
-  /// on the function, whose comment says it. -7000, which tells two things, says both in words.
+  /// The code's name in Velkord.h and its number, `VELKORD_WRONG_TAG (-7)`: its meaning depends on
+  /// the function. For -7000, which has two meanings, both are added in words.
   [[nodiscard]] std::string message(int code) const override {
     return std::string(CodeName(code)) + " (" + std::to_string(code) + ")";
   }
@@ -277,19 +277,19 @@ class ErrorCategory final : public std::error_category {
   }
 };
 
-/// The category of the codes.
+/// The one object of the category.
 [[nodiscard]] inline const std::error_category& error_category() noexcept {
   static const ErrorCategory category;
   return category;
 }
 
 /// What a function returned as an error code, which is false for `VELKORD_OK`. Not for the
-/// functions whose comment tells of other results.
+/// functions that return anything but codes.
 [[nodiscard]] inline std::error_code ToErrorCode(std::int32_t code) noexcept {
   return {code, error_category()};
 }
 
-/// The same of a named code.
+/// A named code as an error code.
 [[nodiscard]] inline std::error_code make_error_code(Errc code) noexcept {
   return ToErrorCode(static_cast<std::int32_t>(code));
 }
@@ -314,9 +314,9 @@ inline void Check(std::int32_t code, const char* what) {
   if (code != VELKORD_OK) throw std::system_error(ToErrorCode(code), what);
 }
 
-/// Calls a function whose last parameter is an out pointer and gives what it made:
-/// `Make("write a time", ASN1_WriteUtcTime, &seconds)`. `in` is what goes in front, as the function
-/// takes it. Throws as `Check` does.
+/// Calls a function whose last parameter is an out pointer and returns what it made:
+/// `Make("write a time", ASN1_WriteUtcTime, &seconds)`. `in` are the arguments before that one, as
+/// the function takes them. Throws as `Check` does.
 template <typename... Parameters, typename... In>
 [[nodiscard]] auto Make(const char* what, std::int32_t (*function)(Parameters...), In... in) {
   static_assert(sizeof...(In) + 1 == sizeof...(Parameters));
@@ -326,8 +326,8 @@ template <typename... Parameters, typename... In>
   return made;
 }
 
-/// The size of a container, span or text as the library counts, in 32 bits; `Length<int32_t>` is
-/// for the functions that count in signed numbers. Throws `std::length_error` for more.
+/// The size of a container, span or text in 32 bits, as functions take it; `Length<int32_t>` is for
+/// those that take a signed one. Throws `std::length_error` for a larger size.
 template <std::integral Count = std::uint32_t, typename Container>
 [[nodiscard]] Count Length(const Container& bytes) {
   if (!std::in_range<Count>(std::size(bytes))) {
