@@ -1,36 +1,80 @@
 /// @mainpage Velkord
-/// The whole boundary of Velkord: DER structures of a public-key infrastructure as plain C99. The
-/// functions are grouped by family under Modules.
+/// The whole interface of Velkord: DER structures of a public-key infrastructure, in plain C99.
+/// This holds unless a comment says otherwise. A comment above several functions is that of each.
 ///
 /// **Nodes.** Every DER value travels in an `Anybuf`. A *TLV node* holds one whole element: tag
 /// octets, length octets and content. A *content node* holds content octets alone. The node does
-/// not say which form it has; each function says which one it takes and which one it makes. A
-/// *chain* is a run of nodes linked through `next` and held by the first.
+/// not say which form it has: functions take and make TLV nodes unless they speak of content nodes.
+/// A *chain* is a run of TLV nodes linked through `next` and held by the first.
 ///
 /// **Reduced tags.** `dataType` is the tag octet itself when it is 0x80 or above, and its low five
 /// bits otherwise: a SEQUENCE (0x30) is 16, a SET (0x31) is 17, `[3]` EXPLICIT stays 0xA3. A tag of
 /// several octets is `(number << 8) | first octet`, the number cut to 24 bits: `9F 21` is 0x219F,
 /// `BF 00` is 0xBF. Its low five bits are all set, as those of no tag of one octet are.
 ///
-/// **Lengths.** Reading takes lengths of up to four octets behind the one that counts them, in
-/// shortest form or not. The indefinite length (80) is refused, with -2 for the element that a
-/// function opens and with -1 for a child of it.
+/// **Lengths** count bytes. Those of elements are read in shortest form or not, with up to four
+/// octets after the first, and written in shortest form; the indefinite length (80) is refused.
 ///
-/// **Ownership.** Inputs are copied and stay the caller's; the one exception is
-/// `ASN1_SetAlgorithmIdentifier`. What a function hands out is new, and the caller releases it with
-/// the Free function that its comment names. Every Free does nothing for a null pointer. Nodes,
-/// their `data` and all other blocks come from the C run-time's `malloc` and go back through its
-/// `free`, so a caller may build and take apart nodes itself.
+/// **Ownership.** What a function is given is copied and stays the caller's;
+/// `ASN1_SetAlgorithmIdentifier` alone differs. What it hands out is new: nodes and chains are
+/// released with `ASN1_FreeAnybuf`, a record and all in it with the Free function of its type. A
+/// Free function does nothing for a null pointer. All blocks come from the C run-time's `malloc`
+/// and go back through its `free`, so a caller may build and take apart nodes itself. Threads may
+/// use different nodes and records at the same time.
 ///
-/// **Results.** A function that returns `int32_t` gives 0 or a negative code below, unless its
-/// comment says otherwise. After a failure no out argument and no record has changed, but for what
-/// the comment of the function tells, and nothing stays allocated. A null pointer where an argument
-/// is required gives `VELKORD_NULL_ARGUMENT`; bytes may be null when their length is 0. A node
-/// whose `data` is null counts as holding no bytes. Lengths count bytes.
+/// **Records.** A record owns the nodes in its fields: copies, those of a SEQUENCE or SET with its
+/// own length in shortest form. A setter releases what the field held before, and sets the flag of
+/// an optional field to 1; an optional field is written when its flag is 1. Writing changes nothing
+/// in it. A decoder takes one level of the DER apart. It tests the types of what must be a
+/// SEQUENCE, SET or time alone, and skips elements after those that it knows.
 ///
 /// **Buffers.** An out buffer comes without its size: each comment states the room that it needs. A
 /// reader of one content may be given the `data` of its own source, and the functions of RSA, EC
-/// and SM2 keys may write over what they read; otherwise buffers and inputs do not overlap.
+/// and SM2 keys may write over what they read; otherwise buffers and inputs do not overlap. Bytes
+/// may be null when their length is 0, and a node whose `data` is null holds none.
+///
+/// **Results.** After a failure no out argument and no record has changed, and nothing stays
+/// allocated. A function that returns `int32_t` returns `VELKORD_OK`, `VELKORD_NULL_ARGUMENT`, or a
+/// code that the first word of its comment stands for:
+///
+/// | first word | what the function does | codes |
+/// |---|---|---|
+/// | Makes | makes a node or chain | `VELKORD_FAILURE` |
+/// | Reads | looks into one element of any type | these and `VELKORD_SIZE_MISMATCH` |
+/// | Opens | looks into a SEQUENCE or SET and its children | these and `VELKORD_WRONG_TAG` |
+/// | Decodes | makes a record of a SEQUENCE | these and `VELKORD_OUT_OF_MEMORY` |
+/// | Creates | makes a record | `VELKORD_OUT_OF_MEMORY` |
+/// | Sets | sets a field | as Opens from a SEQUENCE or SET, else as Makes |
+/// | Stores | stores a number in a record | no more |
+///
+/// Other codes that a comment names are added to these; after "Returns" it names all. A function
+/// that is another name of one, or sets a field as one does, returns what that one does.
+///
+/// | group | what it holds |
+/// |---|---|
+/// | @ref codes | what each means |
+/// | @ref records | what functions fill and read, field by field |
+/// | @ref nodes | a node made and released |
+/// | @ref strings | the types whose content is bytes |
+/// | @ref integers | numbers of 32 bits and of any size |
+/// | @ref object_ids | dotted text, content octets and elements |
+/// | @ref sequences | chains built, joined and split |
+/// | @ref tags | an element under another tag |
+/// | @ref time | UTCTime and GeneralizedTime |
+/// | @ref names | attributes, relative names and names |
+/// | @ref key_info | Validity, AlgorithmIdentifier, SubjectPublicKeyInfo, RSAPublicKey |
+/// | @ref extensions | one extension, and the list of them |
+/// | @ref certificates | the signed part, and the whole with its signature |
+/// | @ref inspection | the subject of a certificate, and a value in its extensions |
+/// | @ref lists | an entry, the signed part, and the whole with its signature |
+/// | @ref requests | the signed part, and the whole with its signature |
+/// | @ref extended_certificates | the signed part, and the whole with its signature |
+/// | @ref messages | a content after its type |
+/// | @ref rsa_keys | records of numbers as DER |
+/// | @ref ec_keys | records of a point or a private value as DER |
+/// | @ref sm2 | signatures, private values and points as DER |
+/// | @ref base64 | DER as text |
+/// | @ref character_sets | GB2312, code points and UTF-8 |
 #ifndef VELKORD_H_
 #define VELKORD_H_
 
@@ -57,41 +101,48 @@ extern "C" {
 
 // -------------------------------------------------------------------------------------------------
 /// @defgroup codes Return codes
-/// What functions return.
-/// @{
-// -------------------------------------------------------------------------------------------------
+/// What each means, by the first word of a comment or by family.
+///
+/// | code | returned by | when |
+/// |---|---|---|
+/// | `VELKORD_FAILURE` | Makes, Reads, Opens, Decodes | there is no memory for a node |
+/// | | Reads, Opens, Decodes | a length has more than four octets after the first |
+/// | | Opens, Decodes | a child is missing, runs past its parent or has the indefinite length |
+/// | | keys, PEM, inspection | what the comments there say |
+/// | `VELKORD_SIZE_MISMATCH` | Reads, Opens, Decodes | the bytes are not exactly one element |
+/// | | | its length is indefinite, or an octet that must be there is missing |
+/// | `VELKORD_NEGATIVE_TIME` | writers of times | a time is below 0 |
+/// | `VELKORD_BAD_TIME` | readers of times | a text is short, or lacks a digit or its final "Z" |
+/// | `VELKORD_WRONG_TAG` | Opens, Decodes | what must be a SEQUENCE or SET is none |
+/// | | names, readers of times | a value is of another string type, a time of another type |
+/// | `VELKORD_NULL_ARGUMENT` | all | an argument that is required is null |
+/// | | writers of records | a field that is to be written was never set |
+/// | | Decodes | the bytes are null, of length 0 too |
+/// | `VELKORD_OUT_OF_MEMORY` | Creates, Decodes | there is no memory for the record |
+/// | | writers of times | there is no memory for the node |
+/// | | readers of times | a time is before 1970, or after 19 January 2038, 03:14:07 UTC |
 
 /// Return codes.
 enum {
-  VELKORD_OK = 0,              ///< Success.
-  VELKORD_FAILURE = -1,        ///< A length of more than 4 subsequent octets; a child that overruns
-                               ///< its parent, has the indefinite length or is missing; out of
-                               ///< memory for a node; all that a function of EC keys refuses, and
-                               ///< of RSA keys all that is not -2 or -7.
-  VELKORD_SIZE_MISMATCH = -2,  ///< Tag, length and content do not add up to the bytes given, or the
-                               ///< length is indefinite.
-  VELKORD_NEGATIVE_TIME = -4,  ///< A time value below 0.
-  VELKORD_BAD_TIME = -5,       ///< A time text without its digits or its final "Z".
-  VELKORD_WRONG_TAG = -7,      ///< Not the SEQUENCE, SET, time form or string type that is needed.
-  VELKORD_NULL_ARGUMENT = -8,  ///< A null argument, or a required field that was never set.
-  VELKORD_OUT_OF_MEMORY = -7000  ///< Out of memory for a record; or a time outside 1970 to 2038.
+  VELKORD_OK = 0,                ///< Success.
+  VELKORD_FAILURE = -1,          ///< No memory, a length too long, a child that does not fit.
+  VELKORD_SIZE_MISMATCH = -2,    ///< Tag, length and content are not the bytes given.
+  VELKORD_NEGATIVE_TIME = -4,    ///< A time below 0.
+  VELKORD_BAD_TIME = -5,         ///< A malformed time text.
+  VELKORD_WRONG_TAG = -7,        ///< Another type than the one that is needed.
+  VELKORD_NULL_ARGUMENT = -8,    ///< A null argument, or a required field that was never set.
+  VELKORD_OUT_OF_MEMORY = -7000  ///< No memory for a record, or a time outside 1970 to 2038.
 };
-
-/// @}
-
 // -------------------------------------------------------------------------------------------------
 /// @defgroup records Records
 /// What functions fill and read, field by field.
-/// @{
-// -------------------------------------------------------------------------------------------------
 
 /// The value node.
 typedef struct Anybuf {
   uint8_t* data;        ///< The node's own block.
   uint32_t dataLen;     ///< Number of bytes at `data`.
   uint32_t unusedBits;  ///< Unused bits of a BIT STRING; no meaning for other types.
-  uint32_t memKind;     ///< 2 on a node that the library makes; a copy of a node carries that of
-                        ///< its source over. Nothing tests it.
+  uint32_t memKind;     ///< 2 on a new node, that of its source on a copy; nothing tests it.
   uint32_t dataType;    ///< Reduced tag.
   struct Anybuf* next;  ///< Next node of the chain, null on the last.
   struct Anybuf* prev;  ///< Node before this one in a chain from a split; else null.
@@ -109,13 +160,13 @@ typedef struct ObjectID {
   struct Anybuf* prev;  ///< As in a node.
 } ObjectID;
 
-/// One attribute of a name. Owns both nodes.
+/// One attribute of a name.
 typedef struct AttributeTypeAndValue {
   Anybuf* type;   ///< OBJECT IDENTIFIER TLV.
   Anybuf* value;  ///< String TLV.
 } AttributeTypeAndValue;
 
-/// The signed part of a certificate. Owns its ten nodes; each holds one finished element.
+/// The signed part of a certificate.
 typedef struct TBSCertificate {
   uint32_t version;              ///< As given to the setter; 0 after a decode.
   uint32_t hasIssuerUniqueID;    ///< 1 when `issuerUniqueID` is set.
@@ -133,14 +184,14 @@ typedef struct TBSCertificate {
   Anybuf* extensions;  ///< Optional: `[3]` around the list; after a decode SEQUENCE around it.
 } TBSCertificate;
 
-/// A signed certificate. Owns its three nodes.
+/// A signed certificate.
 typedef struct Certificate {
   Anybuf* tbsCertificate;      ///< SEQUENCE, as signed.
   Anybuf* signatureAlgorithm;  ///< AlgorithmIdentifier.
   Anybuf* signatureValue;      ///< BIT STRING.
 } Certificate;
 
-/// One entry of a revocation list. Owns its three nodes.
+/// One entry of a revocation list.
 typedef struct RevokedCertificate {
   uint32_t hasCrlEntryExtensions;   ///< 1 when `crlEntryExtensions` is set.
   Anybuf* certificateSerialNumber;  ///< INTEGER.
@@ -148,7 +199,7 @@ typedef struct RevokedCertificate {
   Anybuf* crlEntryExtensions;       ///< SEQUENCE of extensions, optional.
 } RevokedCertificate;
 
-/// The signed part of a revocation list. Owns its four nodes.
+/// The signed part of a revocation list.
 typedef struct TbsCertList {
   uint32_t hasRevokedCertificates;  ///< 1 when `revokedCertificates` is set.
   uint32_t hasCrlExtensions;        ///< 1 when `crlExtensions` is set.
@@ -160,17 +211,17 @@ typedef struct TbsCertList {
   int32_t thisUpdate;               ///< Seconds since 1 January 1970.
   int32_t nextUpdate;               ///< Seconds since 1 January 1970, optional.
   Anybuf* revokedCertificates;      ///< SEQUENCE of entries, optional.
-  Anybuf* crlExtensions;            ///< What stands inside `[0]`: SEQUENCE of extensions, optional.
+  Anybuf* crlExtensions;            ///< The content of `[0]`: SEQUENCE of extensions, optional.
 } TbsCertList;
 
-/// A signed revocation list. Owns its three nodes.
+/// A signed revocation list.
 typedef struct CertificateList {
   Anybuf* tbsCertList;         ///< SEQUENCE, as signed.
   Anybuf* signatureAlgorithm;  ///< AlgorithmIdentifier.
   Anybuf* signatureValue;      ///< BIT STRING.
 } CertificateList;
 
-/// The signed part of a PKCS#10 certification request. Owns its four nodes.
+/// The signed part of a PKCS#10 certification request.
 typedef struct PKCS10 {
   Anybuf* version;               ///< INTEGER.
   Anybuf* subject;               ///< Name.
@@ -178,35 +229,35 @@ typedef struct PKCS10 {
   Anybuf* attributes;            ///< `[0]` IMPLICIT SET; null when a decoded one has none.
 } PKCS10;
 
-/// A signed PKCS#10 certification request. Owns its three nodes.
+/// A signed PKCS#10 certification request.
 typedef struct PKCS10Request {
   Anybuf* certificationRequestInfo;  ///< SEQUENCE, as signed.
   Anybuf* signatureAlgorithm;        ///< AlgorithmIdentifier.
   Anybuf* signature;                 ///< BIT STRING.
 } PKCS10Request;
 
-/// The signed part of a PKCS#6 extended certificate. Owns its two nodes.
+/// The signed part of a PKCS#6 extended certificate.
 typedef struct ExtendedCertificateInfo {
   uint32_t version;     ///< The number itself.
   Anybuf* certificate;  ///< Certificate.
   Anybuf* attributes;   ///< SET.
 } ExtendedCertificateInfo;
 
-/// A signed PKCS#6 extended certificate. Owns its three nodes.
+/// A signed PKCS#6 extended certificate.
 typedef struct ExtendedCertificate {
   Anybuf* extendedCertificateInfo;  ///< SEQUENCE, as signed.
   Anybuf* signatureAlgorithm;       ///< AlgorithmIdentifier.
   Anybuf* signature;                ///< BIT STRING.
 } ExtendedCertificate;
 
-/// A PKCS#7 ContentInfo. Owns its two nodes.
+/// A PKCS#7 ContentInfo.
 typedef struct PKCS7Context {
   Anybuf* contentType;  ///< OBJECT IDENTIFIER.
-  Anybuf* content;      ///< The whole `[0]` element when set; what stands inside it when decoded.
+  Anybuf* content;      ///< The whole `[0]` element when set, its content when decoded.
 } PKCS7Context;
 
 /// An RSA public key: big-endian numbers. Encoding takes each from its field's end, with zero bytes
-/// in front; decoding puts each at its field's start, with zero bytes behind.
+/// in front; decoding puts each at its field's start, with zero bytes after it.
 typedef struct ZantPublicKey {
   uint8_t modulus[256];         ///< n.
   uint8_t publicExponent[256];  ///< e.
@@ -284,153 +335,29 @@ typedef struct X509Cert {
   uintptr_t word22;           ///< The caller's.
   CertWideEntry* entriesB;    ///< Released with the record.
 } X509Cert;
-
-/// @}
-
 // -------------------------------------------------------------------------------------------------
 /// @defgroup nodes Value nodes
-/// The value that all others are made of.
-/// @{
-// -------------------------------------------------------------------------------------------------
 
 /// Makes a content node with a copy of `length` bytes. `dataType` is `type` as it stands. For type
 /// 3 `unusedBits` comes from the size of the last byte V: 0 for V below 2 or above 128, otherwise
-/// the number of bits of V - 1. Free with `ASN1_FreeAnybuf`. Returns 0, -1 (memory) or -8.
+/// the number of bits of V - 1.
 VELKORD_API int32_t ASN1_CreateAnybuf(const uint8_t* bytes, uint32_t length, uint8_t type,
                                       Anybuf** out);
 
-/// Releases `node` and every node after it, each with its `data`. Call it on the head of a chain
-/// only.
+/// Makes a node of DER bytes, unchanged. Only the tag is read, and in spite of the name none is
+/// added. Also `VELKORD_SIZE_MISMATCH` without a whole tag.
+VELKORD_API int32_t ASN1_WriteExplicitFromDERData(const uint8_t* bytes, uint32_t length,
+                                                  Anybuf** out);
+
+/// Releases `node` and every node after it, so it is for the head of a chain only.
 VELKORD_API void ASN1_FreeAnybuf(Anybuf* node);
-
-/// Releases a record and its `data`; `next` is not followed.
-VELKORD_API void ASN1_FreeObjectID(ObjectID* record);
-
-/// @}
-
-// -------------------------------------------------------------------------------------------------
-/// @defgroup integers INTEGER
-/// Unsigned magnitudes, big-endian.
-/// @{
-// -------------------------------------------------------------------------------------------------
-
-/// Gives the DER content octets of `value`, 1 to 5 of them, and their count in a cell of its own.
-/// Release both blocks with `free`. Returns 0, -1 (memory) or -8.
-VELKORD_API int32_t Asn1LowIntToChar(uint32_t value, uint8_t** outBytes, uint32_t** outLength);
-
-/// Makes the TLV node of a number. Free with `ASN1_FreeAnybuf`. Returns 0, -1 (memory) or -8.
-VELKORD_API int32_t ASN1_WriteInteger(uint32_t value, Anybuf** out);
-
-/// Reads the number of a TLV node of any type: its low 32 bits. Bytes behind the element are
-/// allowed.
-/// Returns 0, -1 (length octets), -2 (the element leaves the node) or -8.
-VELKORD_API int32_t ASN1_ReadInteger(const Anybuf* source, uint32_t* value);
-
-/// Makes an INTEGER TLV node over a magnitude: a zero octet goes in front of a first byte of 0x80
-/// or more; leading zeros stay. The node form takes a content node of any type. Free with
-/// `ASN1_FreeAnybuf`. Returns 0, -1 (memory) or -8.
-/// @{
-VELKORD_API int32_t ASN1_WriteIntegerArray(const Anybuf* source, Anybuf** out);
-VELKORD_API int32_t ASN1_WriteIntegerArrayFromBytes(const uint8_t* bytes, uint32_t length,
-                                                    Anybuf** out);
-/// @}
-
-/// @}
-
-// -------------------------------------------------------------------------------------------------
-/// @defgroup sequences SEQUENCE and SET
-/// Chains of TLV nodes.
-/// @{
-// -------------------------------------------------------------------------------------------------
-
-/// Starts a chain with a copy of `element`; its `next` is not followed. Free with
-/// `ASN1_FreeAnybuf`.
-/// Returns 0, -1 (memory) or -8.
-/// @{
-VELKORD_API int32_t ASN1_CreateSequence(const Anybuf* element, Anybuf** out);
-VELKORD_API int32_t ASN1_CreateSet(const Anybuf* element, Anybuf** out);
-/// @}
-
-/// Appends a copy of `element` at the end of `chain`, to which it walks. Does nothing for a null
-/// argument; when memory runs out the chain stays as it was.
-/// @{
-VELKORD_API void ASN1_AddSequence(const Anybuf* element, Anybuf* chain);
-VELKORD_API void ASN1_AddSet(const Anybuf* element, Anybuf* chain);
-/// @}
-
-/// Releases a whole chain, as `ASN1_FreeAnybuf` does.
-/// @{
-VELKORD_API void ASN1_FreeSequence(Anybuf* chain);
-VELKORD_API void ASN1_FreeSet(Anybuf* chain);
-/// @}
-
-/// Makes one SEQUENCE or SET TLV node over the bytes of a chain, in the chain's order; a null chain
-/// gives an empty element. Free with `ASN1_FreeAnybuf`. Returns 0, -1 (memory) or -8.
-/// @{
-VELKORD_API int32_t ASN1_WriteSequence(const Anybuf* chain, Anybuf** out);
-VELKORD_API int32_t ASN1_WriteSet(const Anybuf* chain, Anybuf** out);
-/// @}
-
-/// Splits one SEQUENCE or SET, in a TLV node or in plain bytes, into the chain of its direct
-/// children, each a whole TLV node. An element without children gives a null chain. Free with
-/// `ASN1_FreeAnybuf`.
-/// Returns 0, -1 (length octets, a child that runs past its parent, memory), -2, -7 (another tag)
-/// or -8.
-/// @{
-VELKORD_API int32_t ASN1_ReadSequence(const Anybuf* source, Anybuf** out);
-VELKORD_API int32_t ASN1_ReadSet(const Anybuf* source, Anybuf** out);
-VELKORD_API int32_t ASN1_WriteSequenceFromDERBytes(const uint8_t* bytes, uint32_t length,
-                                                   Anybuf** out);
-VELKORD_API int32_t ASN1_WriteSetFromDERData(const uint8_t* bytes, uint32_t length, Anybuf** out);
-/// @}
-
-/// @}
-
-// -------------------------------------------------------------------------------------------------
-/// @defgroup object_ids OBJECT IDENTIFIER
-/// Dotted text, content octets and TLV nodes.
-/// @{
-// -------------------------------------------------------------------------------------------------
-
-/// Turns dotted text of `textLength` characters into content octets; blanks may stand for points.
-/// `out` needs as many bytes as the text has characters. Arcs are 32-bit and wrap. Returns the
-/// number of octets written, which also goes to `outLength`, or 0 for a text that is refused; then
-/// `outLength` is not written and `out` may hold the octets of the arcs before the bad one. A first
-/// arc and a point alone give 0 and set `outLength` to 0. A null argument gives 0.
-VELKORD_API int32_t ASN1_OBJECT_a2d(uint8_t* out, uint32_t* outLength, const char* text,
-                                    int32_t textLength);
-
-/// Makes an OBJECT IDENTIFIER TLV node over content octets; `id` has no effect. Free with
-/// `ASN1_FreeAnybuf`.
-/// Returns 0, -1 (memory) or -8.
-/// @{
-VELKORD_API int32_t ASN1_WriteObjectId(const ObjectID* record, Anybuf** out);
-VELKORD_API int32_t ASN1_WriteObjectIdFromData(int32_t id, const uint8_t* bytes, uint32_t length,
-                                               Anybuf** out);
-/// @}
-
-/// Reads the content of a TLV node of any type into a new record. Free with `ASN1_FreeObjectID`.
-/// Returns 0, -1 (length octets), -2, -7000 (memory) or -8.
-VELKORD_API int32_t ASN1_ReadObjectId(const Anybuf* source, ObjectID** out);
-
-/// Copies the content of a TLV node of any type to `out`, which needs room for all of it.
-/// Returns 0, -1 (length octets), -2 or -8.
-VELKORD_API int32_t ASN1_ReadObjectIdToBytes(const Anybuf* source, uint8_t* out,
-                                             uint32_t* outLength);
-
-/// @}
-
 // -------------------------------------------------------------------------------------------------
 /// @defgroup strings Byte and character strings, ENUMERATED, BOOLEAN, NULL
-/// Writing differs by the tag alone, and reading is the same for all.
-/// @{
-// -------------------------------------------------------------------------------------------------
+/// Writing differs by the tag alone; reading is the same for all. CharString is PrintableString.
 
-/// Makes a TLV node over a content node of any type. CharString is PrintableString.
-/// `ASN1_WriteBitString` writes the low byte of the source's `unusedBits` in front.
-/// `ASN1_WritePrintableString` writes a BMPString for a source of `dataType` 30 and a
-/// PrintableString otherwise. Free with `ASN1_FreeAnybuf`. Returns 0, -1 (memory) or -8.
-/// @{
+/// Makes an element over a content node of any type. `ASN1_WriteBitString` writes the low byte of
+/// the source's `unusedBits` in front. `ASN1_WritePrintableString` writes a BMPString for a source
+/// of `dataType` 30 and a PrintableString otherwise.
 VELKORD_API int32_t ASN1_WriteOctetString(const Anybuf* source, Anybuf** out);
 VELKORD_API int32_t ASN1_WriteBitString(const Anybuf* source, Anybuf** out);
 VELKORD_API int32_t ASN1_WriteCharString(const Anybuf* source, Anybuf** out);
@@ -439,12 +366,9 @@ VELKORD_API int32_t ASN1_WriteBmpString(const Anybuf* source, Anybuf** out);
 VELKORD_API int32_t ASN1_WriteIa5String(const Anybuf* source, Anybuf** out);
 VELKORD_API int32_t ASN1_WriteEnumerated(const Anybuf* source, Anybuf** out);
 VELKORD_API int32_t ASN1_WritePrintableString(const Anybuf* source, Anybuf** out);
-/// @}
 
-/// Makes a TLV node over content bytes. `ASN1_WriteBitStringFromBytes` derives the unused bits from
-/// the size of the last byte, as `ASN1_CreateAnybuf` does: where the count is known, use a node and
-/// `ASN1_WriteBitString`. Free with `ASN1_FreeAnybuf`. Returns 0, -1 (memory) or -8.
-/// @{
+/// Makes an element over content bytes. `ASN1_WriteBitStringFromBytes` derives the unused bits from
+/// the size of the last byte, as `ASN1_CreateAnybuf` does; `ASN1_WriteBitString` takes a count.
 VELKORD_API int32_t ASN1_WriteOctetStringFromBytes(const uint8_t* bytes, uint32_t length,
                                                    Anybuf** out);
 VELKORD_API int32_t ASN1_WriteBitStringFromBytes(const uint8_t* bytes, uint32_t length,
@@ -457,921 +381,665 @@ VELKORD_API int32_t ASN1_WriteBmpStringFromBytes(const uint8_t* bytes, uint32_t 
                                                  Anybuf** out);
 VELKORD_API int32_t ASN1_WriteIa5StringFromBytes(const uint8_t* bytes, uint32_t length,
                                                  Anybuf** out);
-/// @}
-
-/// As above: a PrintableString when `selector` is not 0, a BMPString when it is.
+/// Makes a PrintableString over content bytes when `selector` is not 0, and a BMPString when it is.
 VELKORD_API int32_t ASN1_WritePrintableStringFromBytes(int32_t selector, const uint8_t* bytes,
                                                        uint32_t length, Anybuf** out);
 
-/// Stores the DER of a whole BIT STRING unchanged in a TLV node; `unusedBits` is the octet behind
-/// the header. Neither the tag nor the length in the header is tested. Free with `ASN1_FreeAnybuf`.
-/// Returns 0, -1 (length octets, memory), -2 (the bytes end before that octet) or -8.
+/// Other names of `ASN1_WriteExplicitFromDERData`; none tests the type.
+VELKORD_API int32_t ASN1_WriteOctetStringFromDERBytes(const uint8_t* bytes, uint32_t length,
+                                                      Anybuf** out);
+VELKORD_API int32_t ASN1_WriteCharStringFromDERBytes(const uint8_t* bytes, uint32_t length,
+                                                     Anybuf** out);
+VELKORD_API int32_t ASN1_WriteUTF8StringFromDERBytes(const uint8_t* bytes, uint32_t length,
+                                                     Anybuf** out);
+VELKORD_API int32_t ASN1_WriteBmpStringFromDERBytes(const uint8_t* bytes, uint32_t length,
+                                                    Anybuf** out);
+VELKORD_API int32_t ASN1_WriteIa5StringFromDERBytes(const uint8_t* bytes, uint32_t length,
+                                                    Anybuf** out);
+VELKORD_API int32_t ASN1_WritePrintableStringFromDERBytes(const uint8_t* bytes, uint32_t length,
+                                                          Anybuf** out);
+/// Reads the DER bytes of a BIT STRING into a node, unchanged; `unusedBits` is the octet after the
+/// header. The tag and the length are not tested; `VELKORD_SIZE_MISMATCH` only without that octet.
 VELKORD_API int32_t ASN1_WriteBitStringFromDERBytes(const uint8_t* bytes, uint32_t length,
                                                     Anybuf** out);
 
-/// Makes the TLV node of a BOOLEAN with the byte at `value` unchanged. Free with `ASN1_FreeAnybuf`.
-/// Returns 0, -1 (memory) or -8.
-VELKORD_API int32_t ASN1_WriteBoolean(const uint8_t* value, Anybuf** out);
-
-/// Gives the first content octet of a TLV node of any type as it stands: that of a BIT STRING is
-/// its unused-bits octet. Returns 0, -1 (length octets), -2 (also for an element without content)
-/// or -8.
-VELKORD_API int32_t ASN1_ReadBoolean(const Anybuf* source, uint8_t* value);
-
-/// Makes the TLV node of a NULL. Free with `ASN1_FreeAnybuf`. Returns 0, -1 (memory) or -8.
-VELKORD_API int32_t ASN1_WriteNull(Anybuf** out);
-
-/// Makes the content node of a TLV node of any type; `dataType` is the tag that was read. A source
+/// Reads an element of any type into a content node; `dataType` is the tag that was read. A source
 /// of `dataType` 3 loses its unused-bits octet and passes its `unusedBits` on; an INTEGER loses the
-/// zero octet that only keeps it positive. All names are one function. Free with `ASN1_FreeAnybuf`.
-/// Returns 0, -1 (length octets, memory), -2 or -8.
-/// @{
+/// zero octet that only keeps it positive. All names are one function.
 VELKORD_API int32_t ASN1_ReadBitString(const Anybuf* source, Anybuf** out);
 VELKORD_API int32_t ASN1_ReadBmpString(const Anybuf* source, Anybuf** out);
 VELKORD_API int32_t ASN1_ReadCharString(const Anybuf* source, Anybuf** out);
 VELKORD_API int32_t ASN1_ReadEnumerated(const Anybuf* source, Anybuf** out);
 VELKORD_API int32_t ASN1_ReadIa5String(const Anybuf* source, Anybuf** out);
-VELKORD_API int32_t ASN1_ReadIntegerArray(const Anybuf* source, Anybuf** out);
 VELKORD_API int32_t ASN1_ReadOctetString(const Anybuf* source, Anybuf** out);
 VELKORD_API int32_t ASN1_ReadPrintableString(const Anybuf* source, Anybuf** out);
 VELKORD_API int32_t ASN1_ReadUTF8String(const Anybuf* source, Anybuf** out);
-/// @}
 
-/// Copies that content to `out` and its size to `outLength`. `out` needs room for the whole
-/// content, at most the source's `dataLen`; no zero is added. All names are one function. Returns
-/// 0, -1 (length octets), -2 or -8.
-/// @{
+/// Reads the same content into `out` and its size into `outLength`. `out` needs room for all of it,
+/// at most the source's `dataLen`; no zero is added. All names are one function.
 VELKORD_API int32_t ASN1_ReadCharStringToBytes(const Anybuf* source, uint8_t* out,
                                                uint32_t* outLength);
 VELKORD_API int32_t ASN1_ReadIa5StringToBytes(const Anybuf* source, uint8_t* out,
                                               uint32_t* outLength);
-VELKORD_API int32_t ASN1_ReadIntegerArrayToBytes(const Anybuf* source, uint8_t* out,
-                                                 uint32_t* outLength);
 VELKORD_API int32_t ASN1_ReadOctetStringToBytes(const Anybuf* source, uint8_t* out,
                                                 uint32_t* outLength);
 VELKORD_API int32_t ASN1_ReadPrintableStringToBytes(const Anybuf* source, uint8_t* out,
                                                     uint32_t* outLength);
 VELKORD_API int32_t ASN1_ReadUTF8StringToBytes(const Anybuf* source, uint8_t* out,
                                                uint32_t* outLength);
-/// @}
-
-/// The same for BMP text: of each pair of bytes a zero high byte is left out, and an odd last byte
-/// too.
+/// Reads the same of BMP text without the high bytes that are zero and without an odd last byte.
 VELKORD_API int32_t ASN1_ReadBmpStringToBytes(const Anybuf* source, uint8_t* out,
                                               uint32_t* outLength);
 
-/// @}
-
+/// Makes a BOOLEAN with the byte at `value` unchanged.
+VELKORD_API int32_t ASN1_WriteBoolean(const uint8_t* value, Anybuf** out);
+/// Reads the first content octet of an element of any type, of a BIT STRING its unused-bits octet.
+VELKORD_API int32_t ASN1_ReadBoolean(const Anybuf* source, uint8_t* value);
+/// Makes a NULL.
+VELKORD_API int32_t ASN1_WriteNull(Anybuf** out);
 // -------------------------------------------------------------------------------------------------
-/// @defgroup tags Tags and raw DER
-/// EXPLICIT and IMPLICIT tags, and DER bytes stored as they are.
-/// @{
-// -------------------------------------------------------------------------------------------------
+/// @defgroup integers INTEGER
+/// Numbers are unsigned; those of any size are big-endian bytes.
 
-/// Makes a TLV node of tag octet `tagNumber | 0xA0` around the source's bytes, or around plain
-/// bytes; of `tagNumber` the low byte counts. Free with `ASN1_FreeAnybuf`. Returns 0, -1 (memory)
-/// or -8.
-/// @{
+/// Makes the content octets of a number, 1 to 5 of them, and their count in a cell of its own.
+/// Release both blocks with `free`.
+VELKORD_API int32_t Asn1LowIntToChar(uint32_t value, uint8_t** outBytes, uint32_t** outLength);
+/// Makes the INTEGER of a number.
+VELKORD_API int32_t ASN1_WriteInteger(uint32_t value, Anybuf** out);
+/// Reads the low 32 bits of the number in an element of any type. Bytes after it are allowed.
+VELKORD_API int32_t ASN1_ReadInteger(const Anybuf* source, uint32_t* value);
+
+/// Makes an INTEGER over a content node of any type or over bytes: a zero octet goes in front of a
+/// first byte of 0x80 or more; leading zeros stay.
+VELKORD_API int32_t ASN1_WriteIntegerArray(const Anybuf* source, Anybuf** out);
+VELKORD_API int32_t ASN1_WriteIntegerArrayFromBytes(const uint8_t* bytes, uint32_t length,
+                                                    Anybuf** out);
+/// Another name of `ASN1_WriteExplicitFromDERData`.
+VELKORD_API int32_t ASN1_WriteIntegerArrayFromDERBytes(const uint8_t* bytes, uint32_t length,
+                                                       Anybuf** out);
+/// Another name of `ASN1_ReadBitString`.
+VELKORD_API int32_t ASN1_ReadIntegerArray(const Anybuf* source, Anybuf** out);
+/// Another name of `ASN1_ReadOctetStringToBytes`.
+VELKORD_API int32_t ASN1_ReadIntegerArrayToBytes(const Anybuf* source, uint8_t* out,
+                                                 uint32_t* outLength);
+// -------------------------------------------------------------------------------------------------
+/// @defgroup object_ids OBJECT IDENTIFIER
+
+/// Turns dotted text of `textLength` characters into content octets; blanks may stand for points.
+/// `out` needs as many bytes as the text has characters. Arcs are 32-bit and wrap. Returns the
+/// number of octets written, which also goes to `outLength`, or 0 for a null argument and for a
+/// text that is refused; then `outLength` is not written and `out` may hold the octets of the arcs
+/// before the bad one. For a first arc and a point alone it returns 0 and sets `outLength` to 0.
+VELKORD_API int32_t ASN1_OBJECT_a2d(uint8_t* out, uint32_t* outLength, const char* text,
+                                    int32_t textLength);
+
+/// Makes an OBJECT IDENTIFIER over content octets; `id` has no effect.
+VELKORD_API int32_t ASN1_WriteObjectId(const ObjectID* record, Anybuf** out);
+VELKORD_API int32_t ASN1_WriteObjectIdFromData(int32_t id, const uint8_t* bytes, uint32_t length,
+                                               Anybuf** out);
+/// Another name of `ASN1_WriteExplicitFromDERData`.
+VELKORD_API int32_t ASN1_WriteObjectIdFromDERBytes(const uint8_t* bytes, uint32_t length,
+                                                   Anybuf** out);
+
+/// Reads the content of an element of any type into a new record. Also `VELKORD_OUT_OF_MEMORY`.
+VELKORD_API int32_t ASN1_ReadObjectId(const Anybuf* source, ObjectID** out);
+/// Releases a record and its `data`; `next` is not followed.
+VELKORD_API void ASN1_FreeObjectID(ObjectID* record);
+/// Another name of `ASN1_ReadOctetStringToBytes`.
+VELKORD_API int32_t ASN1_ReadObjectIdToBytes(const Anybuf* source, uint8_t* out,
+                                             uint32_t* outLength);
+// -------------------------------------------------------------------------------------------------
+/// @defgroup sequences SEQUENCE and SET
+/// Chains are built, joined and split. The order of the elements stays as it is, in a SET too.
+
+/// Makes a chain of one node, a copy of `element`; its `next` is not followed.
+VELKORD_API int32_t ASN1_CreateSequence(const Anybuf* element, Anybuf** out);
+VELKORD_API int32_t ASN1_CreateSet(const Anybuf* element, Anybuf** out);
+/// Appends a copy of `element` at the end of `chain`, to which it walks. Does nothing for a null
+/// argument; when memory runs out the chain stays as it was.
+VELKORD_API void ASN1_AddSequence(const Anybuf* element, Anybuf* chain);
+VELKORD_API void ASN1_AddSet(const Anybuf* element, Anybuf* chain);
+/// Other names of `ASN1_FreeAnybuf`.
+VELKORD_API void ASN1_FreeSequence(Anybuf* chain);
+VELKORD_API void ASN1_FreeSet(Anybuf* chain);
+
+/// Makes one SEQUENCE or SET over the bytes of a chain; a null chain makes an empty element.
+VELKORD_API int32_t ASN1_WriteSequence(const Anybuf* chain, Anybuf** out);
+VELKORD_API int32_t ASN1_WriteSet(const Anybuf* chain, Anybuf** out);
+/// Opens a SEQUENCE or SET, in a node or in bytes: the chain of its children, null for none.
+VELKORD_API int32_t ASN1_ReadSequence(const Anybuf* source, Anybuf** out);
+VELKORD_API int32_t ASN1_ReadSet(const Anybuf* source, Anybuf** out);
+VELKORD_API int32_t ASN1_WriteSequenceFromDERBytes(const uint8_t* bytes, uint32_t length,
+                                                   Anybuf** out);
+VELKORD_API int32_t ASN1_WriteSetFromDERData(const uint8_t* bytes, uint32_t length, Anybuf** out);
+// -------------------------------------------------------------------------------------------------
+/// @defgroup tags EXPLICIT and IMPLICIT tags
+/// Of a tag number the low byte counts.
+
+/// Makes an element of tag octet `tagNumber | 0xA0` around a node of either form, or around bytes.
 VELKORD_API int32_t ASN1_WriteExplicit(const Anybuf* source, uint8_t tagNumber, Anybuf** out);
 VELKORD_API int32_t ASN1_WriteExplicitFromData(uint32_t tagNumber, const uint8_t* bytes,
                                                uint32_t length, Anybuf** out);
-/// @}
-
-/// Opens a TLV node of any type: its content as `ASN1_ReadBitString` gives it, and its reduced tag
-/// (0xA3 for `[3]`). Free the node with `ASN1_FreeAnybuf`; the buffer form needs room for the whole
-/// content.
-/// Returns 0, -1 (length octets, memory), -2 or -8.
-/// @{
+/// Reads an element of any type: its content as `ASN1_ReadBitString` does, and its reduced tag,
+/// 0xA3 for `[3]`. The buffer needs room for the whole content.
 VELKORD_API int32_t ASN1_ReadExplicit(const Anybuf* source, Anybuf** out, uint32_t* outTag);
 VELKORD_API int32_t ASN1_ReadExplicitToBytes(const Anybuf* source, uint8_t* out,
                                              uint32_t* outLength, uint32_t* outTag);
-/// @}
 
-/// Makes a TLV node with the source's content under another tag: `tagNumber | 0xA0` for a source of
-/// `dataType` 16 or 17, `tagNumber | 0x80` otherwise; the low byte counts. A BIT STRING keeps its
-/// unused-bits octet; an INTEGER loses the zero octet that only keeps it positive. Free with
-/// `ASN1_FreeAnybuf`. Returns 0, -1 (length octets, memory), -2 or -8.
+/// Reads an element and makes one of the same content under another tag: `tagNumber | 0xA0` for a
+/// source of `dataType` 16 or 17, `tagNumber | 0x80` otherwise. A BIT STRING keeps its unused-bits
+/// octet; an INTEGER loses the zero octet that only keeps it positive.
 VELKORD_API int32_t ASN1_WriteImplicit(const Anybuf* source, uint32_t tagNumber, Anybuf** out);
-
-/// Opens an element under an IMPLICIT tag. A constructed context or private element gives the chain
-/// of its children, null when it has none; any other element gives a content node, without its
+/// Reads an element under an IMPLICIT tag. A constructed context or private element becomes the
+/// chain of its children, null when it has none; any other becomes a content node, without its
 /// first octet when the tag is odd. `outTagNumber` receives the low five bits of the tag as soon as
-/// the tag is read, also when a later test fails. Free with `ASN1_FreeAnybuf`. Returns 0, -1
-/// (length octets, a child that runs past its parent, memory), -2 or -8.
+/// it is read, also when a later test fails. `VELKORD_FAILURE` also for a child that does not fit.
 VELKORD_API int32_t ASN1_ReadImplicit(const Anybuf* source, Anybuf** out, uint32_t* outTagNumber);
-
-/// Stores DER bytes unchanged in a TLV node; only the tag is read. All names are one function, none
-/// tests the type. Free with `ASN1_FreeAnybuf`. Returns 0, -1 (memory), -2 (no whole tag) or -8.
-/// @{
-VELKORD_API int32_t ASN1_WriteExplicitFromDERData(const uint8_t* bytes, uint32_t length,
-                                                  Anybuf** out);
-VELKORD_API int32_t ASN1_WriteBmpStringFromDERBytes(const uint8_t* bytes, uint32_t length,
-                                                    Anybuf** out);
-VELKORD_API int32_t ASN1_WriteCharStringFromDERBytes(const uint8_t* bytes, uint32_t length,
-                                                     Anybuf** out);
-VELKORD_API int32_t ASN1_WriteIa5StringFromDERBytes(const uint8_t* bytes, uint32_t length,
-                                                    Anybuf** out);
-VELKORD_API int32_t ASN1_WriteIntegerArrayFromDERBytes(const uint8_t* bytes, uint32_t length,
-                                                       Anybuf** out);
-VELKORD_API int32_t ASN1_WriteObjectIdFromDERBytes(const uint8_t* bytes, uint32_t length,
-                                                   Anybuf** out);
-VELKORD_API int32_t ASN1_WriteOctetStringFromDERBytes(const uint8_t* bytes, uint32_t length,
-                                                      Anybuf** out);
-VELKORD_API int32_t ASN1_WritePrintableStringFromDERBytes(const uint8_t* bytes, uint32_t length,
-                                                          Anybuf** out);
-VELKORD_API int32_t ASN1_WriteUTF8StringFromDERBytes(const uint8_t* bytes, uint32_t length,
-                                                     Anybuf** out);
-/// @}
-
-/// @}
-
 // -------------------------------------------------------------------------------------------------
 /// @defgroup time Time
-/// Seconds since 1 January 1970 against local time text.
-/// @{
-// -------------------------------------------------------------------------------------------------
+/// A time is a number of seconds since 1 January 1970. The text of an element is the machine's
+/// local time followed by "Z", so it is UTC only where the local zone is UTC. The zone is that of
+/// the C library: the one that TZ names at the call, or without TZ the one that it has read;
+/// whoever changes that calls `tzset`, on Windows `_tzset`.
 
-/// Makes the TLV node of a time. The text is the machine's local time followed by "Z", so it is UTC
-/// only where the local zone is UTC. The zone is that of the C library: the one that TZ names at
-/// the call, or without TZ the one that it has read; whoever changes that calls `tzset`, on Windows
-/// `_tzset`. Free with `ASN1_FreeAnybuf`. Returns 0, -4 (negative), -7000 (memory, or the platform
-/// refuses) or -8.
-/// @{
+/// Makes the element of a time. Returns `VELKORD_OK`, `VELKORD_NEGATIVE_TIME`,
+/// `VELKORD_NULL_ARGUMENT` or `VELKORD_OUT_OF_MEMORY` (also when the platform refuses the time).
 VELKORD_API int32_t ASN1_WriteGeneralizedTime(const int32_t* time, Anybuf** out);
 VELKORD_API int32_t ASN1_WriteUtcTime(const int32_t* time, Anybuf** out);
-/// @}
-
-/// Reads the time of a TLV node as local time. UTCTime years 00 to 69 are 2000 to 2069, and fields
+/// Reads the time of an element of that form. UTCTime years 00 to 69 are 2000 to 2069, and fields
 /// out of range carry over: day 32 of January is 1 February. Of an hour that occurs twice the
 /// earlier one is read; an hour that the clocks skip is read as if they had not been changed.
-/// Returns 0, -1 (length octets), -2 (no whole header), -5 (short, no digits, no "Z"), -7 (another
-/// `dataType`), -7000 (before 1970, or after 19 January 2038, 03:14:07 UTC) or -8.
-/// @{
+/// `VELKORD_SIZE_MISMATCH` only without a whole header; also `VELKORD_WRONG_TAG` for another
+/// `dataType`, `VELKORD_BAD_TIME` and `VELKORD_OUT_OF_MEMORY`.
 VELKORD_API int32_t ASN1_ReadGeneralizedTime(const Anybuf* source, int32_t* time);
 VELKORD_API int32_t ASN1_ReadUtcTime(const Anybuf* source, int32_t* time);
-/// @}
-
-/// @}
-
 // -------------------------------------------------------------------------------------------------
 /// @defgroup names Names
-/// Attributes, relative names and names.
-/// @{
-// -------------------------------------------------------------------------------------------------
+/// A name is a SEQUENCE of relative names, and a relative name a SET of attributes. The value of an
+/// attribute is a UTF8String, PrintableString or IA5String; for another type a function that looks
+/// at it returns `VELKORD_WRONG_TAG`.
 
-/// Makes a record with copies of two TLV nodes. Free with `ASN1_FreeAttributeTypeAndValue`.
-/// Returns 0, -7000 (memory) or -8.
+/// Creates a record with copies of two nodes.
 VELKORD_API int32_t ASN1_SetAttributeTypeAndValue(const Anybuf* type, const Anybuf* value,
                                                   AttributeTypeAndValue** out);
-
-/// Makes the SEQUENCE TLV node of an attribute. Free with `ASN1_FreeAnybuf`. Returns 0, -1 (memory)
-/// or -8.
+/// Releases a record.
+VELKORD_API void ASN1_FreeAttributeTypeAndValue(AttributeTypeAndValue* record);
+/// Makes the SEQUENCE of an attribute.
 VELKORD_API int32_t ASN1_GetDerAttributeTypeAndValue(const AttributeTypeAndValue* record,
                                                      Anybuf** out);
-
-/// Opens the SEQUENCE TLV node of an attribute: its OBJECT IDENTIFIER and its UTF8String,
-/// PrintableString or IA5String as new TLV nodes. Free both with `ASN1_FreeAnybuf`.
-/// Returns 0, -1 (also a missing element), -2, -7 (no SEQUENCE, another string type) or -8.
+/// Opens the SEQUENCE of an attribute: its OBJECT IDENTIFIER and its value as new nodes.
 VELKORD_API int32_t ASN1_DecodeDerAttributeTypeAndValue(const Anybuf* source, Anybuf** outType,
                                                         Anybuf** outValue);
 
-/// Releases a record and its nodes.
-VELKORD_API void ASN1_FreeAttributeTypeAndValue(AttributeTypeAndValue* record);
-
-/// The SET of a relative name: written as `ASN1_WriteSet` does, split as `ASN1_ReadSet` and
-/// `ASN1_WriteSetFromDERData` do.
-/// @{
-VELKORD_API int32_t ASN1_GetDerRelativeDistinguishedName(const Anybuf* chain, Anybuf** out);
-VELKORD_API int32_t ASN1_ReadRelativeDistinguishedName(const Anybuf* source, Anybuf** out);
-VELKORD_API int32_t ASN1_ReadRelativeDistinguishedNameFromByte(const uint8_t* bytes,
-                                                               uint32_t length, Anybuf** out);
-/// @}
-
-/// Makes the SET TLV node of a relative name with one attribute, from a string TLV node of
-/// `dataType` 12, 19 or 22 and the attribute's OID as dotted text; `id` has no effect. A text that
-/// `ASN1_OBJECT_a2d` refuses gives an empty OID. Free with `ASN1_FreeAnybuf`. Returns 0, -1
-/// (memory), -2 (the value has no whole tag), -7 (another string type) or -8.
+/// Makes the SET of a relative name with one attribute, from its value and its OID as dotted text;
+/// `id` has no effect. A text that `ASN1_OBJECT_a2d` refuses makes an empty OID. Also
+/// `VELKORD_WRONG_TAG` by the value's `dataType`, and `VELKORD_SIZE_MISMATCH` without a whole tag.
 VELKORD_API int32_t ASN1_GetDerRelativeDistinguishedNameOne(const Anybuf* value, int32_t id,
                                                             const char* oidText,
                                                             int32_t oidTextLength, Anybuf** out);
-
-/// Opens the SET TLV node of a relative name and gives its first attribute: the value's bytes, a
-/// UTF8String turned into GB2312 by `utf8sToZhs`, and the OID's content octets. `value` and `oid`
-/// need room for the whole contents.
-/// Returns 0, -1 (also no attribute, a missing element), -2, -7 (no SET, no SEQUENCE, another
-/// string type) or -8.
+/// Opens the SET of a relative name and copies the value and the OID's octets of its first
+/// attribute, a UTF8String turned into GB2312 by `utf8sToZhs`. There must be room for the whole
+/// contents.
 VELKORD_API int32_t ASN1_DecodeDerRelativeDistinguishedNameOne(const Anybuf* source, uint8_t* value,
                                                                uint32_t* valueLength, uint8_t* oid,
                                                                uint32_t* oidLength);
 
-/// `ASN1_CreateSet` under the names of what is listed.
-/// @{
+/// Other names of `ASN1_CreateSet`: start a chain of relative names or of attributes.
 VELKORD_API int32_t ASN1_CreateName(const Anybuf* element, Anybuf** out);
 VELKORD_API int32_t ASN1_CreateRelativeDistinguishedName(const Anybuf* element, Anybuf** out);
-VELKORD_API int32_t ASN1_CreateExtensions(const Anybuf* element, Anybuf** out);
-/// @}
-
-/// `ASN1_AddSet` under the names of what is listed: the element first, the chain second.
-/// @{
+/// Other names of `ASN1_AddSet`: the element first, the chain second.
 VELKORD_API void ASN1_AddName(const Anybuf* element, Anybuf* chain);
 VELKORD_API void ASN1_AddRelativeDistinguishedName(const Anybuf* element, Anybuf* chain);
-VELKORD_API void ASN1_AddExtensions(const Anybuf* element, Anybuf* chain);
-/// @}
-
-/// `ASN1_WriteSequence` under the names of what is listed.
-/// @{
-VELKORD_API int32_t ASN1_GetDerName(const Anybuf* chain, Anybuf** out);
-VELKORD_API int32_t ASN1_WriteExtensions(const Anybuf* chain, Anybuf** out);
-/// @}
-
-/// `ASN1_ReadSequence` under the names of what is listed.
-/// @{
-VELKORD_API int32_t ASN1_ReadDerName(const Anybuf* source, Anybuf** out);
-VELKORD_API int32_t ASN1_ReadExtensions(const Anybuf* source, Anybuf** out);
-/// @}
-
-/// `ASN1_FreeAnybuf` under the names of what is released.
-/// @{
+/// Other names of `ASN1_FreeAnybuf`.
 VELKORD_API void ASN1_FreeNames(Anybuf* chain);
 VELKORD_API void ASN1_FreeRelativeDistinguishedName(Anybuf* chain);
-VELKORD_API void ASN1_FreeExtension(Anybuf* chain);
-VELKORD_API void ASN1_FreeExtensions(Anybuf* chain);
-VELKORD_API void ASN1_FreeAlgorithmIdentifier(Anybuf* chain);
-VELKORD_API void ASN1_FreeSubjectPublicKeyInfo(Anybuf* chain);
-VELKORD_API void ASN1_FreeRSAPublicKey(Anybuf* chain);
-VELKORD_API void ASN1_FreeValidity(Anybuf* chain);
-/// @}
-
-/// @}
-
+/// Another name of `ASN1_WriteSequence`.
+VELKORD_API int32_t ASN1_GetDerName(const Anybuf* chain, Anybuf** out);
+/// Another name of `ASN1_ReadSequence`.
+VELKORD_API int32_t ASN1_ReadDerName(const Anybuf* source, Anybuf** out);
+/// Another name of `ASN1_WriteSet`.
+VELKORD_API int32_t ASN1_GetDerRelativeDistinguishedName(const Anybuf* chain, Anybuf** out);
+/// Another name of `ASN1_ReadSet`.
+VELKORD_API int32_t ASN1_ReadRelativeDistinguishedName(const Anybuf* source, Anybuf** out);
+/// Another name of `ASN1_WriteSetFromDERData`.
+VELKORD_API int32_t ASN1_ReadRelativeDistinguishedNameFromByte(const uint8_t* bytes,
+                                                               uint32_t length, Anybuf** out);
 // -------------------------------------------------------------------------------------------------
-/// @defgroup key_info Validity, algorithm and key info
-/// Parts that certificates and requests share.
-/// @{
-// -------------------------------------------------------------------------------------------------
+/// @defgroup key_info Validity, algorithms and public keys
 
-/// Makes the SEQUENCE TLV node of two TLV nodes: notBefore and notAfter, or modulus and exponent.
-/// Neither is tested. Free with `ASN1_FreeAnybuf`. Returns 0, -1 (memory) or -8.
-/// @{
+/// Makes the SEQUENCE of two times, which are not tested.
 VELKORD_API int32_t ASN1_SetValidity(const Anybuf* notBefore, const Anybuf* notAfter, Anybuf** out);
-VELKORD_API int32_t ASN1_SetRSAPublicKey(const Anybuf* modulus, const Anybuf* exponent,
-                                         Anybuf** out);
-/// @}
-
-/// Reads both times of a Validity TLV node, in either form; of more than two the last is notAfter.
-/// Returns 0, -1 (also fewer than two elements), -2, -5, -7 (no SEQUENCE, no time), -7000 (see
-/// `ASN1_ReadUtcTime`) or -8.
+/// Opens a Validity and reads both times, in either form; of more than two the last is notAfter.
+/// Also `VELKORD_BAD_TIME` and `VELKORD_OUT_OF_MEMORY`; what is no time is `VELKORD_WRONG_TAG`.
 VELKORD_API int32_t ASN1_GetValidity(const Anybuf* source, int32_t* notBefore, int32_t* notAfter);
+/// Another name of `ASN1_FreeAnybuf`.
+VELKORD_API void ASN1_FreeValidity(Anybuf* chain);
 
-/// Opens the SEQUENCE TLV node of an RSA public key: both numbers as new INTEGER TLV nodes,
-/// positive; of more than two elements the last is the exponent. Free both with `ASN1_FreeAnybuf`.
-/// Returns 0, -1 (also fewer than two elements), -2, -7 (no SEQUENCE) or -8.
-VELKORD_API int32_t ASN1_GetRSAPublicKey(const Anybuf* source, Anybuf** outModulus,
-                                         Anybuf** outExponent);
-
-/// Makes an AlgorithmIdentifier TLV node of `oid` and one more element: `parameter` when it is not
-/// null, else NULL when `mode` is 1, else `alternative`, which must then be there. **Releases
-/// `oid`**, that node alone, on success, unless NULL was written; after a failure it stays the
-/// caller's. Free with `ASN1_FreeAnybuf`. Returns 0, -1 (memory) or -8.
+/// Makes an AlgorithmIdentifier of `oid` and one more element: `parameter` when it is not null,
+/// else NULL when `mode` is 1, else `alternative`, which must then be there. **Releases `oid`**,
+/// that node alone, on success, unless NULL was written; after a failure it stays the caller's.
 VELKORD_API int32_t ASN1_SetAlgorithmIdentifier(uint32_t mode, Anybuf* oid,
                                                 const Anybuf* alternative, const Anybuf* parameter,
                                                 Anybuf** out);
-
-/// Opens an AlgorithmIdentifier TLV node. Each out pointer may be null, and that part is not
-/// delivered. A SEQUENCE parameter goes to `outSequence`; a NULL or none leaves both parameters
-/// null; anything else goes to `outParameterOid` as an OBJECT IDENTIFIER over its content. Of
-/// several parameters the last counts. Free each with `ASN1_FreeAnybuf`.
-/// Returns 0, -1 (also an empty SEQUENCE), -2, -7 (no SEQUENCE), or -8 (null `source`).
+/// Opens an AlgorithmIdentifier. Each out pointer may be null, and that part is not handed out. A
+/// SEQUENCE parameter goes to `outSequence`; a NULL or none leaves both null; anything else goes to
+/// `outParameterOid` as an OBJECT IDENTIFIER over its content. The last parameter counts.
 VELKORD_API int32_t ASN1_GetAlgorithmIdentifier(const Anybuf* source, Anybuf** outOid,
                                                 Anybuf** outSequence, Anybuf** outParameterOid);
+/// Another name of `ASN1_FreeAnybuf`.
+VELKORD_API void ASN1_FreeAlgorithmIdentifier(Anybuf* chain);
 
-/// Makes a SubjectPublicKeyInfo TLV node: a copy of `algorithm`, then a BIT STRING over the bytes
-/// of `key`, written as `ASN1_WriteBitStringFromBytes` does. Free with `ASN1_FreeAnybuf`. Returns
-/// 0, -1 (memory) or -8.
+/// Makes a SubjectPublicKeyInfo: a copy of `algorithm`, then a BIT STRING over the bytes of `key`,
+/// a node of either form, as `ASN1_WriteBitStringFromBytes` writes it.
 VELKORD_API int32_t ASN1_SetSubjectPublicKeyInfo(const Anybuf* algorithm, const Anybuf* key,
                                                  Anybuf** out);
-
-/// Opens a SubjectPublicKeyInfo TLV node: AlgorithmIdentifier and BIT STRING as new TLV nodes, the
-/// unused-bits octet always 0. Free both with `ASN1_FreeAnybuf`.
-/// Returns 0, -1 (also a missing element), -2, -7 (it or its first element is no SEQUENCE) or -8.
+/// Opens a SubjectPublicKeyInfo: both parts as new nodes, the unused-bits octet always 0.
 VELKORD_API int32_t ASN1_GetSubjectPublicKeyInfo(const Anybuf* source, Anybuf** outAlgorithm,
                                                  Anybuf** outKey);
+/// Another name of `ASN1_FreeAnybuf`.
+VELKORD_API void ASN1_FreeSubjectPublicKeyInfo(Anybuf* chain);
 
-/// @}
-
+/// Another name of `ASN1_SetValidity`: makes the SEQUENCE of two INTEGERs.
+VELKORD_API int32_t ASN1_SetRSAPublicKey(const Anybuf* modulus, const Anybuf* exponent,
+                                         Anybuf** out);
+/// Opens the SEQUENCE of an RSA public key: both numbers as new INTEGERs, positive; of more than
+/// two elements the last is the exponent.
+VELKORD_API int32_t ASN1_GetRSAPublicKey(const Anybuf* source, Anybuf** outModulus,
+                                         Anybuf** outExponent);
+/// Another name of `ASN1_FreeAnybuf`.
+VELKORD_API void ASN1_FreeRSAPublicKey(Anybuf* chain);
 // -------------------------------------------------------------------------------------------------
 /// @defgroup extensions Extensions
-/// Single, and as a list.
-/// @{
-// -------------------------------------------------------------------------------------------------
 
-/// Makes an Extension TLV node of an OID, a BOOLEAN, which may be null, and an OCTET STRING, all
-/// TLV nodes; none is tested. Free with `ASN1_FreeAnybuf`. Returns 0, -1 (memory) or -8.
+/// Makes an Extension of an OID, a BOOLEAN, which may be null, and an OCTET STRING; none is tested.
 VELKORD_API int32_t ASN1_SetExtension(const Anybuf* oid, const Anybuf* critical,
                                       const Anybuf* value, Anybuf** out);
-
-/// Makes an Extension TLV node from the OID's content octets and the value's bytes. The low byte of
-/// `critical` is the BOOLEAN's octet; when it is 0 there is no BOOLEAN. `id` has no effect. Free
-/// with `ASN1_FreeAnybuf`.
-/// Returns 0, -1 (memory) or -8.
+/// Makes an Extension from the OID's content octets and the value's bytes. The low byte of
+/// `critical` is the BOOLEAN's octet; when it is 0 there is no BOOLEAN. `id` has no effect.
 VELKORD_API int32_t ASN1_GetExtensionOne(int32_t id, const uint8_t* oid, uint32_t oidLength,
                                          uint32_t critical, const uint8_t* value,
                                          uint32_t valueLength, Anybuf** out);
-
-/// Opens an Extension TLV node: OBJECT IDENTIFIER, BOOLEAN and OCTET STRING as new TLV nodes.
-/// `outCritical` is written only when there are exactly three elements: preset it to null. It holds
-/// the first content octet of the second, whatever its type. Free each with `ASN1_FreeAnybuf`.
-/// Returns 0, -1 (also fewer than two elements), -2 (also a BOOLEAN without content), -7 (no
-/// SEQUENCE) or -8.
+/// Opens an Extension: OBJECT IDENTIFIER, BOOLEAN and OCTET STRING as new nodes. `outCritical` is
+/// written only when there are exactly three elements: preset it to null. It holds the first
+/// content octet of the second, whatever its type; `VELKORD_SIZE_MISMATCH` also when that has none.
 VELKORD_API int32_t ASN1_GetExtension(const Anybuf* source, Anybuf** outOid, Anybuf** outCritical,
                                       Anybuf** outValue);
+/// Another name of `ASN1_FreeAnybuf`.
+VELKORD_API void ASN1_FreeExtension(Anybuf* chain);
 
-/// @}
-
+/// Another name of `ASN1_CreateSet`: starts a list.
+VELKORD_API int32_t ASN1_CreateExtensions(const Anybuf* element, Anybuf** out);
+/// Another name of `ASN1_AddSet`: the element first, the chain second.
+VELKORD_API void ASN1_AddExtensions(const Anybuf* element, Anybuf* chain);
+/// Another name of `ASN1_WriteSequence`.
+VELKORD_API int32_t ASN1_WriteExtensions(const Anybuf* chain, Anybuf** out);
+/// Another name of `ASN1_ReadSequence`.
+VELKORD_API int32_t ASN1_ReadExtensions(const Anybuf* source, Anybuf** out);
+/// Another name of `ASN1_FreeAnybuf`.
+VELKORD_API void ASN1_FreeExtensions(Anybuf* chain);
 // -------------------------------------------------------------------------------------------------
-/// @defgroup certificates Certificates: the signed part
-/// What is signed of a certificate.
-/// @{
-// -------------------------------------------------------------------------------------------------
+/// @defgroup certificates Certificates
 
-/// Makes an empty record. Free with `ASN1_FreeTBSCertificate`. Returns 0, -7000 (memory) or -8.
+/// Creates an empty record.
 VELKORD_API int32_t ASN1_CreateTBSCertificate(TBSCertificate** out);
-
-/// Releases a record and its nodes.
+VELKORD_API int32_t ASN1_CreateCertificate(Certificate** out);
+/// Releases a record.
 VELKORD_API void ASN1_FreeTBSCertificate(TBSCertificate* record);
+VELKORD_API void ASN1_FreeCertificate(Certificate* record);
 
-/// Sets the version number, 2 for a version 3 certificate. Each setter of this record copies what
-/// it is given and releases what the field held before. Returns 0, -1 (memory) or -8.
+/// Sets the version number, 2 for a version 3 certificate.
 VELKORD_API int32_t ASN1_TBSCertificateSetVersion(TBSCertificate* record, uint32_t version);
-
-/// Sets the serial number from a big-endian magnitude. Returns 0, -1 (memory) or -8.
+/// Sets the serial number from a big-endian magnitude.
 VELKORD_API int32_t ASN1_TBSCertificateSetSerialNumber(TBSCertificate* record, const uint8_t* bytes,
                                                        uint32_t length);
-
-/// Sets a field to a copy of a SEQUENCE TLV node, its own length rewritten in shortest form.
-/// Returns 0, -1 (length octets, an element that overruns, memory), -2, -7 (no SEQUENCE) or -8.
-/// @{
+/// Sets a field from a SEQUENCE.
 VELKORD_API int32_t ASN1_TBSCertificateSetSignatureAlg(TBSCertificate* record, const Anybuf* value);
 VELKORD_API int32_t ASN1_TBSCertificateSetIssuer(TBSCertificate* record, const Anybuf* value);
 VELKORD_API int32_t ASN1_TBSCertificateSetValidity(TBSCertificate* record, const Anybuf* value);
 VELKORD_API int32_t ASN1_TBSCertificateSetSubject(TBSCertificate* record, const Anybuf* value);
 VELKORD_API int32_t ASN1_TBSCertificateSetSubjectPublicKeyInfo(TBSCertificate* record,
                                                                const Anybuf* value);
-/// @}
-
-/// Sets an optional identifier from a BIT STRING TLV node, under `[1]` or `[2]` IMPLICIT, as
-/// `ASN1_WriteImplicit` does.
-/// Returns 0, -1 (length octets, memory), -2 or -8.
-/// @{
+/// Sets an optional identifier, a BIT STRING, under `[1]` or `[2]` as `ASN1_WriteImplicit` does.
 VELKORD_API int32_t ASN1_TBSCertificateSetIssuerUniqueID(TBSCertificate* record,
                                                          const Anybuf* value);
 VELKORD_API int32_t ASN1_TBSCertificateSetSubjectUniqueID(TBSCertificate* record,
                                                           const Anybuf* value);
-/// @}
-
-/// Sets the extensions from the TLV node of their list, under `[3]` EXPLICIT. Returns 0, -1
-/// (memory) or -8.
+/// Sets the extensions under `[3]` EXPLICIT: the bytes of their list, which are not tested.
 VELKORD_API int32_t ASN1_TBSCertificateSetExtensions(TBSCertificate* record, const Anybuf* value);
-
-/// Makes the SEQUENCE TLV node of the record: seven required fields, then each optional one whose
-/// flag is 1. The record does not change. Free with `ASN1_FreeAnybuf`. Returns 0, -1 (memory) or -8
-/// (also a field that is to be written and not set).
+/// Makes the SEQUENCE of a record: seven required fields, then the optional ones.
 VELKORD_API int32_t ASN1_TBSCertificateWriteData(const TBSCertificate* record, Anybuf** out);
-
-/// Decodes a TBSCertificate TLV node into a new record. The first element is always taken for the
-/// version; `version` stays 0. Optional elements are told by the low five bits of their tags, in
-/// any order; of several of one kind the last counts, though each must open, and elements of other
-/// tags are passed over. The unused-bits octets of the identifiers are derived anew, where that of
-/// `[2]` stays in its content, and `extensions` holds a SEQUENCE around the list: what is written
-/// again is not what was signed. Free with `ASN1_FreeTBSCertificate`.
-/// Returns 0, -1 (also fewer than seven elements), -2 (also an identifier without content that is
-/// constructed or of an odd tag, such as `A1 00`, `A2 00` and `81 00`, and any BIT STRING without
-/// content), -7 (it or one of elements 3 to 7 is no SEQUENCE), -7000 (memory) or -8.
+/// Decodes a TBSCertificate of seven elements or more. The first is always taken for the version;
+/// `version` stays 0. Optional elements are recognised by the low five bits of their tags, in any
+/// order; of several of one kind the last counts, though each must open; elements of other tags are
+/// skipped. The unused-bits octets of the identifiers are derived anew, that of `[2]` also stays in
+/// its content, and `extensions` holds a SEQUENCE around the list: what is written again is not
+/// what was signed. `VELKORD_SIZE_MISMATCH` also for any BIT STRING without content, and for an
+/// identifier without content that is constructed or has an odd tag, such as `A1 00`, `A2 00`,
+/// `81 00`.
 VELKORD_API int32_t ASN1_TBSCertificateDecode(const Anybuf* source, TBSCertificate** out);
 
-/// @}
-
-// -------------------------------------------------------------------------------------------------
-/// @defgroup signed_wholes Signed wholes
-/// Certificates, revocation lists, PKCS#10 certification requests and PKCS#6 extended certificates
-/// have one shape: what is signed, the algorithm and the signature.
-/// @{
-// -------------------------------------------------------------------------------------------------
-
-/// Makes an empty record. Free with the function of the same type. Returns 0, -7000 (memory) or -8.
-/// @{
-VELKORD_API int32_t ASN1_CreateCertificate(Certificate** out);
-VELKORD_API int32_t ASN1_CRL_CreateCertificateList(CertificateList** out);
-VELKORD_API int32_t ASN1_CreatePKCS10Request(PKCS10Request** out);
-VELKORD_API int32_t ASN1_PKCS6_CreateExtendedCertificate(ExtendedCertificate** out);
-/// @}
-
-/// Releases a record and its nodes.
-/// @{
-VELKORD_API void ASN1_FreeCertificate(Certificate* record);
-VELKORD_API void ASN1_CRL_FreeCertificateList(CertificateList* record);
-VELKORD_API void ASN1_FreePKCS10Request(PKCS10Request* record);
-VELKORD_API void ASN1_PKCS6_FreeExtendedCertificate(ExtendedCertificate* record);
-/// @}
-
-/// Sets the first or the second field to a copy of a SEQUENCE TLV node, its own length rewritten in
-/// shortest form. What the field held before is released. Returns 0, -1 (length octets, an element
-/// that overruns, memory), -2, -7 (no SEQUENCE) or -8.
-/// @{
+/// Sets the signed part or the algorithm from a SEQUENCE.
 VELKORD_API int32_t ASN1_CertificateSetTbsCertificate(Certificate* record, const Anybuf* value);
 VELKORD_API int32_t ASN1_CertificateSetSignatureAlgorithm(Certificate* record, const Anybuf* value);
-VELKORD_API int32_t ASN1_CRL_SetCertificateListTBSCertList(CertificateList* record,
-                                                           const Anybuf* value);
-VELKORD_API int32_t ASN1_CRL_SetCertificateListAlgorithmIdentifier(CertificateList* record,
-                                                                   const Anybuf* value);
-VELKORD_API int32_t ASN1_PKCS10RequestSetCertificationRequestInfo(PKCS10Request* record,
-                                                                  const Anybuf* value);
-VELKORD_API int32_t ASN1_PKCS10RequestSetAlgorithmIdentifier(PKCS10Request* record,
-                                                             const Anybuf* value);
-VELKORD_API int32_t ASN1_PKCS6_SetCertificateCertificateInfo(ExtendedCertificate* record,
-                                                             const Anybuf* value);
-VELKORD_API int32_t ASN1_PKCS6_SetCertificateSignatureAlgorithmIdentifier(
-    ExtendedCertificate* record, const Anybuf* value);
-/// @}
-
-/// Sets the signature to a copy of a BIT STRING TLV node, as `ASN1_WriteBitStringFromDERBytes`
-/// does. What the field held before is released. Returns 0, -1 (length octets, memory), -2 or -8.
-/// @{
+/// Sets the signature from a BIT STRING, as `ASN1_WriteBitStringFromDERBytes` does.
 VELKORD_API int32_t ASN1_CertificateSetSignatureValue(Certificate* record, const Anybuf* value);
-VELKORD_API int32_t ASN1_CRL_SetCertificateListSignatureValue(CertificateList* record,
-                                                              const Anybuf* value);
-VELKORD_API int32_t ASN1_PKCS10RequestSetSignature(PKCS10Request* record, const Anybuf* value);
-VELKORD_API int32_t ASN1_PKCS6_SetCertificateSignature(ExtendedCertificate* record,
-                                                       const Anybuf* value);
-/// @}
-
-/// Makes the SEQUENCE TLV node of the three fields. The record does not change. Free with
-/// `ASN1_FreeAnybuf`.
-/// Returns 0, -1 (memory) or -8 (also a field not set).
-/// @{
+/// Makes the SEQUENCE of a record, all three fields.
 VELKORD_API int32_t ASN1_CertificateWriteData(const Certificate* record, Anybuf** out);
-VELKORD_API int32_t ASN1_CRL_CertificateListWriteData(const CertificateList* record, Anybuf** out);
-VELKORD_API int32_t ASN1_PKCS10RequestWriteData(const PKCS10Request* record, Anybuf** out);
-VELKORD_API int32_t ASN1_PKCS6_CertificateWriteData(const ExtendedCertificate* record,
-                                                    Anybuf** out);
-/// @}
-
-/// Decodes DER of exactly `length` bytes into a new record. The first two nodes have their lengths
-/// in shortest form. The signature is a copy as it stands, whatever its type; that of a certificate
-/// alone is written again as a BIT STRING, its length in shortest form and its unused-bits octet 0,
-/// over the content that `ASN1_ReadBitString` gives of an element of its type. Elements behind the
-/// third are passed over. Free with the function of the same type.
-/// Returns 0, -1 (also fewer than three elements), -2, -7 (it or one of elements 1 and 2 is no
-/// SEQUENCE), -7000 (memory) or -8 (also null bytes of length 0).
-/// @{
+/// Decodes a certificate. Its signature, of any type, becomes a BIT STRING without unused bits,
+/// over the content that `ASN1_ReadBitString` reads from an element of its type.
 VELKORD_API int32_t ASN1_CertificateDecode(const uint8_t* bytes, uint32_t length,
                                            Certificate** out);
-VELKORD_API int32_t ASN1_CRL_CertificateListDecode(const uint8_t* bytes, uint32_t length,
-                                                   CertificateList** out);
-VELKORD_API int32_t ASN1_PKCS10RequestDecode(const uint8_t* bytes, uint32_t length,
-                                             PKCS10Request** out);
-VELKORD_API int32_t ASN1_PKCS6_CertificateDecode(const uint8_t* bytes, uint32_t length,
-                                                 ExtendedCertificate** out);
-/// @}
-
-/// @}
-
 // -------------------------------------------------------------------------------------------------
 /// @defgroup inspection Certificate inspection
-/// The subject of a decoded certificate, and a value in its extensions.
-/// @{
-// -------------------------------------------------------------------------------------------------
+/// Of the DER that is looked into, malformed parts are skipped.
 
-/// Makes an empty record and also stores it in `out`, which may be null. Free with `X509CertFree`.
-/// Returns the record, or null when memory runs out; `out` is then not written.
+/// Makes an empty record, and stores it in `out` too unless that is null. Returns the record, or
+/// null when memory runs out; `out` is then not written.
 VELKORD_API X509Cert* X509CertCreate(X509Cert** out);
-
 /// Releases a record and all that its named fields hold.
 VELKORD_API void X509CertFree(X509Cert* record);
-
 /// Appends one entry to `subjectEntries` for the first attribute of each relative name in the
 /// subject of `tbs`. A UTF8String or PrintableString value comes as it stands, a BMPString as
-/// `ASN1_ReadBmpStringToBytes` gives it, and any other type leaves the value null. Malformed names
-/// are passed over. The record owns the entries; when memory runs out those that were made stay,
-/// and an entry whose OID or value could not be held has a null block of length 0 there. Returns 0,
-/// -1 (memory) or -8 (also when `tbs` or its subject is not set).
+/// `ASN1_ReadBmpStringToBytes` reads it, and any other type leaves the value null. When memory runs
+/// out the entries that were made stay, and an entry whose OID or value could not be held has a
+/// null block of length 0 there. Returns `VELKORD_OK`, `VELKORD_FAILURE` (no memory for an entry)
+/// or `VELKORD_NULL_ARGUMENT` (also for a null `tbs` or subject).
 VELKORD_API int32_t X509CertGetSubject(X509Cert* record);
-
 /// Looks up the extension whose OID is `oidText`, dotted text of `textLength` characters, in a
 /// decoded `tbs`. In its value, a SEQUENCE of items, each a SEQUENCE of OID and value, it looks for
 /// the item "1.2.156.1.8888.148" and copies the content of that item's value to `value`. Every
 /// match is written there, one over the other, and the last counts, so `value` needs room for the
-/// longest: `dataLen` of `tbs->extensions` is enough. Malformed parts are passed over.
-/// `valueLength` is written only on a match: preset it to 0. Returns 0, also when nothing is found;
-/// -1 when `tbs` has no extensions or when `value` or `valueLength` is null; or -8 (null `record`,
-/// `oidText` or `tbs`).
+/// longest: `dataLen` of `tbs->extensions` is enough. `valueLength` is written only on a match:
+/// preset it to 0. Returns `VELKORD_OK`, also when nothing is found; `VELKORD_FAILURE` when `tbs`
+/// has no extensions or `value` or `valueLength` is null; `VELKORD_NULL_ARGUMENT` when `record`,
+/// its `tbs` or `oidText` is null.
 VELKORD_API int32_t X509CertGetOIDValue(const X509Cert* record, const char* oidText,
                                         int32_t textLength, uint8_t* value, uint32_t* valueLength);
-
-/// @}
-
 // -------------------------------------------------------------------------------------------------
-/// @defgroup list_entries Revocation lists: an entry
-/// One revoked certificate.
-/// @{
-// -------------------------------------------------------------------------------------------------
+/// @defgroup lists Revocation lists
 
-/// Makes an empty record. Free with `ASN1_CRL_FreeRevokedCertificate`. Returns 0, -7000 (memory) or
-/// -8.
+/// Creates an empty record.
 VELKORD_API int32_t ASN1_CRL_CreateRevokedCertificate(RevokedCertificate** out);
-
-/// Releases a record and its nodes.
+VELKORD_API int32_t ASN1_CRL_CreateTbsCertList(TbsCertList** out);
+VELKORD_API int32_t ASN1_CRL_CreateCertificateList(CertificateList** out);
+/// Releases a record.
 VELKORD_API void ASN1_CRL_FreeRevokedCertificate(RevokedCertificate* record);
+VELKORD_API void ASN1_CRL_FreeTbsCertList(TbsCertList* record);
+VELKORD_API void ASN1_CRL_FreeCertificateList(CertificateList* record);
 
-/// Sets the serial number to a copy of a TLV node of any type. Each setter of this record releases
-/// what the field held before. Returns 0, -1 (memory), -2 (no tag) or -8.
+/// Sets the serial number, of any type, as `ASN1_WriteExplicitFromDERData` does.
 VELKORD_API int32_t ASN1_CRL_SetRevokedCertificateCertificateSerialNumber(
     RevokedCertificate* record, const Anybuf* value);
-
-/// Sets the date from a time TLV node, read and written again in the form that it has. Its
-/// `dataType` must be 23 when its first octet is 0x17 (UTCTime), and 24 otherwise.
-/// Returns 0, -1 (length octets), -2, -5, -7 (the other form), -7000 (memory, or see
-/// `ASN1_ReadUtcTime`) or -8.
+/// Sets the date from a time, read and written again in the form that it has. `dataType` must be 23
+/// when the first octet is 0x17 (UTCTime), and 24 otherwise. Returns what `ASN1_ReadUtcTime` does.
 VELKORD_API int32_t ASN1_CRL_SetRevokedCertificateRevocationDate(RevokedCertificate* record,
                                                                  const Anybuf* value);
-
-/// Sets the extensions to a copy of a SEQUENCE TLV node, its own length rewritten in shortest form.
-/// Returns 0, -1 (length octets, an element that overruns, memory), -2, -7 (no SEQUENCE) or -8.
+/// Sets the extensions from a SEQUENCE.
 VELKORD_API int32_t ASN1_CRL_SetRevokedCertificateCrlEntryExtensions(RevokedCertificate* record,
                                                                      const Anybuf* value);
-
-/// Makes the SEQUENCE TLV node of the entry, with extensions when their flag is 1. The record does
-/// not change. Free with `ASN1_FreeAnybuf`. Returns 0, -1 (memory) or -8 (also a field that is to
-/// be written and not set).
+/// Makes the SEQUENCE of a record, the extensions being optional.
 VELKORD_API int32_t ASN1_CRL_RevokedCertificateWriteData(const RevokedCertificate* record,
                                                          Anybuf** out);
-
-/// Decodes the DER of one entry of exactly `length` bytes into a new record. The first element is
-/// copied, the date is read and written again as the setter does, and a third element is the
-/// extensions, its length in shortest form. Elements behind it are passed over. Free with
-/// `ASN1_CRL_FreeRevokedCertificate`.
-/// Returns 0, -1 (also fewer than two elements), -2, -5, -7 (it or the extensions are no SEQUENCE,
-/// or the date is no time), -7000 (memory, or see `ASN1_ReadUtcTime`) or -8 (also null bytes of
-/// length 0).
+/// Decodes an entry. The first element is copied as it stands, the date is read and written again
+/// in its form, and a third element is the extensions. Also `VELKORD_BAD_TIME`.
 VELKORD_API int32_t ASN1_CRL_RevokedCertificateDecode(const uint8_t* bytes, uint32_t length,
                                                       RevokedCertificate** out);
 
-/// @}
-
-// -------------------------------------------------------------------------------------------------
-/// @defgroup lists Revocation lists: the signed part
-/// What is signed of a list.
-/// @{
-// -------------------------------------------------------------------------------------------------
-
-/// Makes an empty record. Free with `ASN1_CRL_FreeTbsCertList`. Returns 0, -7000 (memory) or -8.
-VELKORD_API int32_t ASN1_CRL_CreateTbsCertList(TbsCertList** out);
-
-/// Releases a record and its nodes.
-VELKORD_API void ASN1_CRL_FreeTbsCertList(TbsCertList* record);
-
-/// Sets the version number. Only 2 is written, as INTEGER 2. Returns 0 or -8.
+/// Stores the version number. Only 2 is written, as INTEGER 2.
 VELKORD_API int32_t ASN1_CRL_TbsCertListSetVersion(TbsCertList* record, uint32_t version);
-
-/// Sets a field to a copy of a SEQUENCE TLV node, its own length rewritten in shortest form, and
-/// the flag of an optional one to 1. What the field held before is released. Returns 0, -1 (length
-/// octets, an element that overruns, memory), -2, -7 (no SEQUENCE) or -8.
-/// @{
+/// Sets a field from a SEQUENCE.
 VELKORD_API int32_t ASN1_CRL_TbsCertListSetSignatureAlgorithmIdentifier(TbsCertList* record,
                                                                         const Anybuf* value);
 VELKORD_API int32_t ASN1_CRL_TbsCertListSetIssuer(TbsCertList* record, const Anybuf* value);
 VELKORD_API int32_t ASN1_CRL_TbsCertListSetRevokedCertificates(TbsCertList* record,
                                                                const Anybuf* value);
 VELKORD_API int32_t ASN1_CRL_TbsCertListSetCrlExtensions(TbsCertList* record, const Anybuf* value);
-/// @}
-
-/// Sets the time of this list, in seconds, and the form of both times: 1 for UTCTime, any other
-/// number for GeneralizedTime. A negative time fails when it is written. Returns 0 or -8.
+/// Stores the time of this list, in seconds, and the form of both times: 1 for UTCTime, any other
+/// number for GeneralizedTime. A negative time fails when it is written.
 VELKORD_API int32_t ASN1_CRL_TbsCertListSetThisUpdate(TbsCertList* record, int32_t time,
                                                       uint32_t form);
-
-/// Sets the time of the next list, in seconds, and its flag. Returns 0 or -8.
+/// Stores the time of the next list, in seconds, and sets its flag.
 VELKORD_API int32_t ASN1_CRL_TbsCertListSetNextUpdate(TbsCertList* record, int32_t time);
-
-/// Makes the SEQUENCE TLV node of the record: each optional field when its flag is 1, the
-/// extensions under `[0]` EXPLICIT. The record does not change. Free with `ASN1_FreeAnybuf`.
-/// Returns 0, -1 (memory), -4 (a negative time), -7000 (the platform refuses a time) or -8 (also a
-/// field that is to be written and not set).
+/// Makes the SEQUENCE of a record, the extensions under `[0]` EXPLICIT. Also
+/// `VELKORD_NEGATIVE_TIME`, and `VELKORD_OUT_OF_MEMORY` when the platform refuses a time.
 VELKORD_API int32_t ASN1_CRL_TbsCertListWriteData(const TbsCertList* record, Anybuf** out);
-
-/// Decodes the DER of one signed part of exactly `length` bytes into a new record. Optional
-/// elements are told by their first octet: 0x02 the version; behind thisUpdate, which sets the
-/// form, 0x17 or 0x18 nextUpdate, then 0x30 the revoked certificates; whatever stands next is the
-/// extensions, of which the content is kept. Elements behind them are passed over. All nodes but
-/// the extensions have their lengths in shortest form. A version other than 2, and a nextUpdate in
-/// the other form than thisUpdate, are not written again as they were. Free with
-/// `ASN1_CRL_FreeTbsCertList`. Returns 0, -1 (also a required element missing), -2, -5, -7 (it, the
-/// algorithm or the issuer is no SEQUENCE, or thisUpdate no time), -7000 (memory, or see
-/// `ASN1_ReadUtcTime`) or -8 (also null bytes of length 0).
+/// Decodes a TbsCertList. Optional elements are recognised by their first octet: 0x02 the version;
+/// after thisUpdate, which sets the form, 0x17 or 0x18 nextUpdate, then 0x30 the revoked
+/// certificates; whatever is next is the extensions, of which the content is kept as it stands. A
+/// version other than 2, and a nextUpdate in the other form than thisUpdate, are not written again
+/// as they were. Also `VELKORD_BAD_TIME`.
 VELKORD_API int32_t ASN1_CRL_TbsCertListDecode(const uint8_t* bytes, uint32_t length,
                                                TbsCertList** out);
 
-/// @}
-
+/// Sets the signed part or the algorithm from a SEQUENCE.
+VELKORD_API int32_t ASN1_CRL_SetCertificateListTBSCertList(CertificateList* record,
+                                                           const Anybuf* value);
+VELKORD_API int32_t ASN1_CRL_SetCertificateListAlgorithmIdentifier(CertificateList* record,
+                                                                   const Anybuf* value);
+/// Sets the signature as `ASN1_CertificateSetSignatureValue` does.
+VELKORD_API int32_t ASN1_CRL_SetCertificateListSignatureValue(CertificateList* record,
+                                                              const Anybuf* value);
+/// Makes the SEQUENCE of a record, all three fields.
+VELKORD_API int32_t ASN1_CRL_CertificateListWriteData(const CertificateList* record, Anybuf** out);
+/// Decodes a revocation list. Its signature, of any type, is copied as the setter copies it.
+VELKORD_API int32_t ASN1_CRL_CertificateListDecode(const uint8_t* bytes, uint32_t length,
+                                                   CertificateList** out);
 // -------------------------------------------------------------------------------------------------
-/// @defgroup requests PKCS#10: the signed part
-/// What is signed of a request.
-/// @{
-// -------------------------------------------------------------------------------------------------
+/// @defgroup requests PKCS#10: certification requests
 
-/// Makes an empty record. Free with `ASN1_FreePKCS10`. Returns 0, -7000 (memory) or -8.
+/// Creates an empty record.
 VELKORD_API int32_t ASN1_CreatePKCS10(PKCS10** out);
-
-/// Releases a record and its nodes.
+VELKORD_API int32_t ASN1_CreatePKCS10Request(PKCS10Request** out);
+/// Releases a record.
 VELKORD_API void ASN1_FreePKCS10(PKCS10* record);
+VELKORD_API void ASN1_FreePKCS10Request(PKCS10Request* record);
 
-/// Sets the version, 0 for version 1. Each setter of this record releases what the field held
-/// before. Returns 0, -1 (memory) or -8.
+/// Sets the version number, 0 for version 1.
 VELKORD_API int32_t ASN1_PKCS10SetVersion(PKCS10* record, uint32_t version);
-
-/// Sets a field to a copy of a SEQUENCE TLV node, its own length rewritten in shortest form.
-/// Returns 0, -1 (length octets, an element that overruns, memory), -2, -7 (no SEQUENCE) or -8.
-/// @{
+/// Sets a field from a SEQUENCE.
 VELKORD_API int32_t ASN1_PKCS10SetSubject(PKCS10* record, const Anybuf* value);
 VELKORD_API int32_t ASN1_PKCS10SetSubjectPublicKeyInfo(PKCS10* record, const Anybuf* value);
-/// @}
-
-/// Sets the attributes from a SET TLV node, under `[0]` IMPLICIT, as `ASN1_WriteImplicit` does.
-/// Returns 0, -1 (length octets, memory), -2 or -8.
+/// Sets the attributes, a SET, under `[0]` as `ASN1_WriteImplicit` does.
 VELKORD_API int32_t ASN1_PKCS10SetAttributes(PKCS10* record, const Anybuf* value);
-
-/// Makes the SEQUENCE TLV node of the four fields, all of them required. The record does not
-/// change. Free with `ASN1_FreeAnybuf`.
-/// Returns 0, -1 (memory) or -8 (also a field not set).
+/// Makes the SEQUENCE of a record, all four fields.
 VELKORD_API int32_t ASN1_PKCS10WriteData(const PKCS10* record, Anybuf** out);
-
-/// Decodes the DER of one signed part of exactly `length` bytes into a new record. The first
-/// element is read as a number and written again; the other nodes have their lengths in shortest
-/// form. The attributes may be missing, and such a record can be written only after they are set;
-/// they come back constructed under the tag number of their element, or under the one octet BF for
-/// a tag of several octets. An element that is not a constructed context or private one loses its
-/// first content octet when its tag is odd. Elements behind them are passed over. Free with
-/// `ASN1_FreePKCS10`.
-/// Returns 0, -1 (also fewer than three elements), -2, -7 (it or one of elements 2 and 3 is no
-/// SEQUENCE), -7000 (memory) or -8 (also null bytes of length 0).
+/// Decodes the signed part of a request. The first element is read as a number and written again.
+/// The attributes may be missing, and such a record can be written only after they are set; they
+/// come back constructed under the tag number of their element, or under the one octet BF for a tag
+/// of several octets. An element that is not a constructed context or private one loses its first
+/// content octet when its tag is odd, and must then have one.
 VELKORD_API int32_t ASN1_PKCS10Decode(const uint8_t* bytes, uint32_t length, PKCS10** out);
 
-/// @}
-
+/// Sets the signed part or the algorithm from a SEQUENCE.
+VELKORD_API int32_t ASN1_PKCS10RequestSetCertificationRequestInfo(PKCS10Request* record,
+                                                                  const Anybuf* value);
+VELKORD_API int32_t ASN1_PKCS10RequestSetAlgorithmIdentifier(PKCS10Request* record,
+                                                             const Anybuf* value);
+/// Sets the signature as `ASN1_CertificateSetSignatureValue` does.
+VELKORD_API int32_t ASN1_PKCS10RequestSetSignature(PKCS10Request* record, const Anybuf* value);
+/// Makes the SEQUENCE of a record, all three fields.
+VELKORD_API int32_t ASN1_PKCS10RequestWriteData(const PKCS10Request* record, Anybuf** out);
+/// Decodes a request as `ASN1_CRL_CertificateListDecode` does a list.
+VELKORD_API int32_t ASN1_PKCS10RequestDecode(const uint8_t* bytes, uint32_t length,
+                                             PKCS10Request** out);
 // -------------------------------------------------------------------------------------------------
-/// @defgroup extended_certificates PKCS#6: the signed part
-/// What is signed of an extended certificate.
-/// @{
-// -------------------------------------------------------------------------------------------------
+/// @defgroup extended_certificates PKCS#6: extended certificates
 
-/// Makes an empty record. Free with `ASN1_PKCS6_FreeExtendedCertificateInfo`. Returns 0, -7000
-/// (memory) or -8.
+/// Creates an empty record.
 VELKORD_API int32_t ASN1_PKCS6_CreateExtendedCertificateInfo(ExtendedCertificateInfo** out);
-
-/// Releases a record and its nodes.
+VELKORD_API int32_t ASN1_PKCS6_CreateExtendedCertificate(ExtendedCertificate** out);
+/// Releases a record.
 VELKORD_API void ASN1_PKCS6_FreeExtendedCertificateInfo(ExtendedCertificateInfo* record);
+VELKORD_API void ASN1_PKCS6_FreeExtendedCertificate(ExtendedCertificate* record);
 
-/// Sets the version number. Returns 0 or -8.
+/// Stores the version number.
 VELKORD_API int32_t ASN1_PKCS6_SetCertificateInfoVersion(ExtendedCertificateInfo* record,
                                                          uint32_t version);
-
-/// Sets a field to a copy of a SEQUENCE or a SET TLV node, its own length rewritten in shortest
-/// form. What the field held before is released. Returns 0, -1 (length octets, an element that
-/// overruns, memory), -2, -7 (the certificate is no SEQUENCE, the attributes are no SET) or -8.
-/// @{
+/// Sets the certificate from a SEQUENCE, or the attributes from a SET.
 VELKORD_API int32_t ASN1_PKCS6_SetCertificateInfoX509(ExtendedCertificateInfo* record,
                                                       const Anybuf* value);
 VELKORD_API int32_t ASN1_PKCS6_SetCertificateInfoAttributes(ExtendedCertificateInfo* record,
                                                             const Anybuf* value);
-/// @}
-
-/// Makes the SEQUENCE TLV node of the three fields. The record does not change. Free with
-/// `ASN1_FreeAnybuf`.
-/// Returns 0, -1 (memory) or -8 (also a field not set).
+/// Makes the SEQUENCE of a record, all three fields.
 VELKORD_API int32_t ASN1_PKCS6_CertificateInfoWriteData(const ExtendedCertificateInfo* record,
                                                         Anybuf** out);
-
-/// Decodes the DER of one signed part of exactly `length` bytes into a new record. The version is
-/// the low 32 bits of a first element of any type; the nodes have their lengths in shortest form.
-/// Elements behind the third are passed over. Free with `ASN1_PKCS6_FreeExtendedCertificateInfo`.
-/// Returns 0, -1 (also fewer than three elements), -2, -7 (it or the certificate is no SEQUENCE,
-/// the attributes are no SET), -7000 (memory) or -8 (also null bytes of length 0).
+/// Decodes the signed part. The version is the low 32 bits of a first element of any type.
 VELKORD_API int32_t ASN1_PKCS6_CertificateInfoDecode(const uint8_t* bytes, uint32_t length,
                                                      ExtendedCertificateInfo** out);
 
-/// @}
-
+/// Sets the signed part or the algorithm from a SEQUENCE.
+VELKORD_API int32_t ASN1_PKCS6_SetCertificateCertificateInfo(ExtendedCertificate* record,
+                                                             const Anybuf* value);
+VELKORD_API int32_t ASN1_PKCS6_SetCertificateSignatureAlgorithmIdentifier(
+    ExtendedCertificate* record, const Anybuf* value);
+/// Sets the signature as `ASN1_CertificateSetSignatureValue` does.
+VELKORD_API int32_t ASN1_PKCS6_SetCertificateSignature(ExtendedCertificate* record,
+                                                       const Anybuf* value);
+/// Makes the SEQUENCE of a record, all three fields.
+VELKORD_API int32_t ASN1_PKCS6_CertificateWriteData(const ExtendedCertificate* record,
+                                                    Anybuf** out);
+/// Decodes an extended certificate as `ASN1_CRL_CertificateListDecode` does a list.
+VELKORD_API int32_t ASN1_PKCS6_CertificateDecode(const uint8_t* bytes, uint32_t length,
+                                                 ExtendedCertificate** out);
 // -------------------------------------------------------------------------------------------------
-/// @defgroup messages PKCS#7: the ContentInfo around a message
-/// A content behind the identifier of its type.
-/// @{
-// -------------------------------------------------------------------------------------------------
+/// @defgroup messages PKCS#7: the ContentInfo of a message
 
-/// Makes an empty record. Free with `ASN1_PKCS7_FreeContext`. Returns 0, -7000 (memory) or -8.
+/// Creates an empty record.
 VELKORD_API int32_t ASN1_PKCS7_CreateContext(PKCS7Context** out);
-
-/// Releases a record and its nodes.
+/// Releases a record.
 VELKORD_API void ASN1_PKCS7_FreeContext(PKCS7Context* record);
-
-/// Sets the content type to a copy of a TLV node of any type. What the field held before is
-/// released. Returns 0, -1 (memory), -2 (no tag) or -8.
+/// Sets the content type, of any type, as `ASN1_WriteExplicitFromDERData` does.
 VELKORD_API int32_t ASN1_PKCS7_SetContentType(PKCS7Context* record, const Anybuf* value);
-
-/// Sets the content from a node of any bytes, under `[0]` EXPLICIT. What the field held before is
-/// released. Returns 0, -1 (memory) or -8.
+/// Sets the content from the bytes of a node of either form, under `[0]` EXPLICIT.
 VELKORD_API int32_t ASN1_PKCS7_SetContent(PKCS7Context* record, const Anybuf* value);
-
-/// Makes the SEQUENCE TLV node of the content type and of the content, if that is set. The record
-/// does not change. Free with `ASN1_FreeAnybuf`. Returns 0, -1 (memory) or -8 (also without a
-/// content type).
+/// Makes the SEQUENCE of a record: the content type, and the content if it is set.
 VELKORD_API int32_t ASN1_PKCS7_WriteData(const PKCS7Context* record, Anybuf** out);
-
-/// Decodes the DER of one ContentInfo of exactly `length` bytes into a new record. The content may
-/// be missing; its tag is not tested and comes off, so that a decoded record is not written as it
-/// was read. Elements behind it are passed over. Free with `ASN1_PKCS7_FreeContext`.
-/// Returns 0, -1 (also an empty SEQUENCE), -2, -7 (no SEQUENCE), -7000 (memory) or -8 (also null
-/// bytes of length 0).
+/// Decodes a ContentInfo. The content may be missing; its tag is not tested and comes off, so that
+/// a decoded record is not written as it was read.
 VELKORD_API int32_t ASN1_PKCS7_Decode(const uint8_t* bytes, uint32_t length, PKCS7Context** out);
-
-/// @}
-
 // -------------------------------------------------------------------------------------------------
 /// @defgroup rsa_keys RSA keys
-/// A null argument gives -1. Nothing is allocated unless record and DER overlap; then a lack of
-/// memory gives -1 and changes nothing.
-/// @{
-// -------------------------------------------------------------------------------------------------
+/// Keys of at most 2048 bits; `ASN1_SetRSAPublicKey` and `ASN1_GetRSAPublicKey` take public keys of
+/// any size. `VELKORD_FAILURE` also stands for a null argument and, when record and DER overlap,
+/// for a lack of memory; then nothing has changed.
 
 /// Writes the DER of a key to `der` and its size to `derLen`: RSAPublicKey, at most 526 bytes, or
-/// RSAPrivateKey of PKCS#1, at most 1450. A null `der` gives the size alone. With one of the five
-/// last numbers of a private key 0, the result is 0 and **nothing is written**: preset `derLen` to
-/// 0. Returns 0, or -1 when any other number is 0.
-/// @{
+/// RSAPrivateKey of PKCS#1, at most 1450. With a null `der` the size alone is written. Returns
+/// `VELKORD_OK`, or `VELKORD_FAILURE` when a number is 0; when it is only some of the last five of
+/// a private key, `VELKORD_OK`, and **nothing is written**: preset `derLen` to 0.
 VELKORD_API int32_t ZantEncodePublicKey(const ZantPublicKey* key, uint8_t* der, uint32_t* derLen);
 VELKORD_API int32_t ZantEncodePrivateKey(const ZantPrivateKey* key, uint8_t* der, uint32_t* derLen);
-/// @}
-
-/// Fills a record from DER of exactly `derLen` bytes. A private key may stand in a PrivateKeyInfo
-/// of PKCS#8, told by a second element with 13 bytes of content. No tag but that of the SEQUENCE
-/// around the numbers, and around the PrivateKeyInfo, is tested. Numbers of more than 2048 bits,
-/// and primes of more than 1024, do not fit the record: `ASN1_GetRSAPublicKey` reads any. A failure
-/// while reading leaves the numbers read so far and zero bytes elsewhere; a null argument and a
-/// `derLen` below 1 leave the record alone. A record that was decoded is not ready to be encoded
-/// unless every number fills its field. Returns 0, -1 (also a missing element, a number too long
-/// for its field), -2 or -7 (no SEQUENCE).
-/// @{
+/// Fills a record from DER of exactly `derLen` bytes. A private key may be inside a PrivateKeyInfo
+/// of PKCS#8, recognised by a second element with 13 bytes of content. No tag but that of the
+/// SEQUENCE around the numbers, and around the PrivateKeyInfo, is tested. A failure while reading
+/// leaves the numbers read so far and zero bytes elsewhere; with a `derLen` below 1 it fails before
+/// that. A decoded record is not ready to be encoded unless every number fills its field. Returns
+/// `VELKORD_OK`, or like Opens `VELKORD_FAILURE` (also for a number too long for its field),
+/// `VELKORD_SIZE_MISMATCH` or `VELKORD_WRONG_TAG`.
 VELKORD_API int32_t ZantDecodePublicKey(ZantPublicKey* key, const uint8_t* der, int32_t derLen);
 VELKORD_API int32_t ZantDecodePrivateKey(ZantPrivateKey* key, const uint8_t* der, int32_t derLen);
-/// @}
-
-/// @}
-
 // -------------------------------------------------------------------------------------------------
 /// @defgroup ec_keys Keys of elliptic curves
-/// Nothing is allocated.
-/// @{
-// -------------------------------------------------------------------------------------------------
+/// Keys of 256 bits. Returns `VELKORD_OK`, or `VELKORD_FAILURE` for all that is refused: a null
+/// argument, malformed DER, a missing element. Nothing has changed then. Nothing is allocated.
 
 /// Writes the 312 bytes of a SubjectPublicKeyInfo to `der` and 312 to `derLen`. It states one
-/// constant curve of 256 bits by its parameters; `bits` is not read. Returns 0 or -1 (a null
-/// argument).
+/// constant curve of 256 bits by its parameters; `bits` is not read.
 VELKORD_API int32_t ASN1_EccPubkey2Der(const EccPubkey* key, uint8_t* der, uint32_t* derLen);
-
 /// Fills a record from the DER of a SubjectPublicKeyInfo of exactly `derLen` bytes, whatever its
-/// algorithm: the point's second to 65th byte and `bits`, 256. Its first byte is not tested, and of
-/// a longer point, that of a larger curve, the rest is passed over.
-/// Returns 0, or -1, the record then untouched: the DER is no SEQUENCE or does not add up, an
-/// element is missing, the point is shorter than 65 bytes, an argument is null.
+/// algorithm: the point's second to 65th byte and `bits`, 256. The point's first byte is not
+/// tested, and bytes after the 65th are skipped. A shorter point is refused.
 VELKORD_API int32_t ASN1_Der2EccPubkey(const uint8_t* der, uint32_t derLen, EccPubkey* key);
-
 /// Fills a record from the DER of an ECPrivateKey in a PrivateKeyInfo of PKCS#8, of exactly
-/// `derLen` bytes, whatever its algorithm; `bits` becomes 256. A value shorter than 32 bytes stands
-/// at the start of `d`, and the bytes behind it stay. Returns 0, or -1, the record then untouched:
-/// the DER, or that inside it, is no SEQUENCE or does not add up, an element is missing, the value
-/// is longer than 32 bytes, an argument is null.
+/// `derLen` bytes, whatever its algorithm; `bits` becomes 256. A value of less than 32 bytes goes
+/// to the start of `d`, and the bytes after it stay; a longer one is refused.
 VELKORD_API int32_t ASN1_Der2EccPrikey(const uint8_t* der, uint32_t derLen, EccPrikey* key);
-
-/// @}
-
 // -------------------------------------------------------------------------------------------------
 /// @defgroup sm2 SM2
-/// The result is always 0. What cannot be done, an argument being null or the DER malformed, leaves
-/// all out arguments alone: preset the lengths to 0. Nothing is allocated unless buffers overlap;
-/// a lack of memory then counts as what cannot be done.
-/// @{
-// -------------------------------------------------------------------------------------------------
+/// The result is always `VELKORD_OK`. What cannot be done, an argument being null or the DER
+/// malformed, leaves all out arguments alone: preset the lengths to 0. Nothing is allocated unless
+/// buffers overlap; a lack of memory then counts as what cannot be done.
 
 /// Writes the SEQUENCE of two positive INTEGERs to `der`, which needs room for both numbers and 20
 /// bytes more. Leading zero bytes stay.
 VELKORD_API int32_t ASN1_SM2_SM2SignatureEncode(const uint8_t* r, uint32_t rLen, const uint8_t* s,
                                                 uint32_t sLen, uint8_t* der, uint32_t* derLen);
-
-/// Gives the two numbers of a signature, each without the zero byte that keeps it positive. `r` and
-/// `s` need `derLen` bytes each.
+/// Copies the two numbers of a signature, each without the zero byte that keeps it positive. `r`
+/// and `s` need `derLen` bytes each.
 VELKORD_API int32_t ASN1_SM2_SM2SignatureDecode(uint8_t* r, uint32_t* rLen, uint8_t* s,
                                                 uint32_t* sLen, const uint8_t* der,
                                                 uint32_t derLen);
-
-/// Writes a private value as an INTEGER to `der`, which needs room for the value and 7 bytes more.
-/// Leading zero bytes stay.
+/// Writes a private value as an INTEGER to `der`, 7 bytes more at most. Leading zeros stay.
 VELKORD_API int32_t ASN1_SM2_PrikeyEncode(const uint8_t* value, uint32_t valueLen, uint8_t* der,
                                           uint32_t* derLen);
-
-/// Gives a private value without the zero byte that keeps it positive. `value` needs `derLen`
+/// Copies a private value without the zero byte that keeps it positive. `value` needs `derLen`
 /// bytes.
 VELKORD_API int32_t ASN1_SM2_PrikeyDecode(uint8_t* value, uint32_t* valueLen, const uint8_t* der,
                                           uint32_t derLen);
-
-/// Writes a public point as a BIT STRING to `der`: 0x04, X and Y, together at most 256 bytes, and 5
-/// bytes at most in front. Its unused-bits octet comes from its last byte as in
-/// `ASN1_CreateAnybuf`.
+/// Writes a public point as a BIT STRING to `der`: at most 5 bytes, then 0x04, X and Y, together at
+/// most 256. The last byte decides on the unused-bits octet, as in `ASN1_CreateAnybuf`.
 VELKORD_API int32_t ASN1_SM2_PubkeyEncode(const uint8_t* x, uint32_t xLen, const uint8_t* y,
                                           uint32_t yLen, uint8_t* der, uint32_t* derLen);
-
-/// Gives the two halves, of equal length, of what follows the first byte of a public point; an odd
+/// Copies the two halves, of equal length, of what follows the first byte of a public point; an odd
 /// last byte is left out. `x` and `y` need half of `derLen` each, at most 127 bytes.
 VELKORD_API int32_t ASN1_SM2_PubkeyDecode(uint8_t* x, uint32_t* xLen, uint8_t* y, uint32_t* yLen,
                                           const uint8_t* der, uint32_t derLen);
-
-/// @}
-
 // -------------------------------------------------------------------------------------------------
 /// @defgroup base64 Base64 and PEM
 /// No argument may be null, but for input of length 0.
-/// @{
-// -------------------------------------------------------------------------------------------------
 
 /// Writes Base64 text and a terminating zero to `out`, without line breaks. `out` needs 4 bytes for
-/// each 3 bytes of input or part of them, and 1 more. Returns 0.
+/// each 3 bytes of input or part of them, and 1 more. Returns `VELKORD_OK`.
 VELKORD_API int32_t base64_encode(const uint8_t* in, uint32_t length, char* out);
-
 /// Decodes zero-terminated Base64 text in groups of four characters, up to a group with "=". One to
 /// three characters at the end are ignored. A character outside the alphabet keeps the value of the
-/// same place in the group before. `out` needs 3 bytes for each 4 characters. Returns 0.
+/// same place in the group before. `out` needs 3 bytes for each 4 characters. Returns `VELKORD_OK`.
 VELKORD_API int32_t base64_decode(const char* text, uint8_t* out, uint32_t* outLength);
 
 /// Writes DER bytes as PEM text: `header`, Base64 in lines of 64 characters, `footer`, each line
 /// with CR LF, and a terminating zero that `outLength` does not count. `header` and `footer` are
 /// whole zero-terminated lines without their line end; an empty one is left out. With B the size of
 /// the Base64 text, `out` needs B, 2 for each 64 characters of B or part of them, 2 and the text
-/// for each of header and footer that is not empty, and 1 more. No input gives `outLength` 0 and
-/// nothing written. Returns 0, or -1 for a `length` of 2^30 or more, and when header and footer
-/// make the text longer than a `uint32_t` counts.
+/// for each of header and footer that is not empty, and 1 more. For no input `outLength` is 0 and
+/// nothing else is written. Returns `VELKORD_OK`, or `VELKORD_FAILURE` for a `length` of 2^30 or
+/// more, and when header and footer make the text longer than a `uint32_t` counts.
 VELKORD_API int32_t DER2PEM_data_format(const uint8_t* der, uint32_t length, char* out,
                                         uint32_t* outLength, const char* header,
                                         const char* footer);
-
 /// Decodes the first PEM block of a text of `length` characters, or bare Base64 when the text has
 /// no "-". Characters outside the alphabet are skipped. `out` needs 3 bytes for each 4 Base64
-/// characters of the body.
-/// Returns 0, or -1 when a marker or the end of the body is missing.
+/// characters of the body. Returns `VELKORD_OK`, or `VELKORD_FAILURE` when a marker or the end of
+/// the body is missing.
 VELKORD_API int32_t PEM2DER_data_format(const char* pem, uint32_t length, uint8_t* out,
                                         uint32_t* outLength);
-
-/// @}
-
 // -------------------------------------------------------------------------------------------------
 /// @defgroup character_sets Character sets
 /// A GB code is the first byte of a GB2312 character in bits 8 to 15 and the second in bits 0 to 7.
 /// UTF-8 is the form of up to six bytes, for code points of up to 31 bits. No argument may be null
 /// unless it says so, and no function adds a terminating zero.
-/// @{
-// -------------------------------------------------------------------------------------------------
 
-/// Writes the UTF-8 form of a code point to `out`, which has room for `outSize` bytes. With a null
-/// `out` nothing is written. Returns the number of bytes of the form, or -1 when the room is too
-/// small.
+/// Writes the UTF-8 form of a code point to `out`, which has room for `outSize` bytes. Returns its
+/// number of bytes, for a null `out` too, or -1 when the room is too small.
 VELKORD_API int32_t uniToUTF8(uint8_t* out, int32_t outSize, uint32_t code);
-
 /// Reads one UTF-8 form from at most `inLen` bytes; `code` is written on success only. Returns the
 /// number of bytes read; 0 when `inLen` is below 1; -1 when the form is cut off; -2 when the first
-/// byte opens none; -3 when a following byte is no continuation; -4 when the form is longer than it
-/// need be.
+/// byte opens none; -3 when a following byte is no continuation; -4 when a shorter form exists.
 VELKORD_API int32_t utf8ToUni(const uint8_t* in, int32_t inLen, uint32_t* code);
 
-/// Returns the code point of a GB code. A code that is not assigned gives the code point of a row
-/// near it.
+/// Returns the code point of a GB code, or for one that is not assigned that of a row near it.
 VELKORD_API uint32_t ctouni(uint32_t gb);
-
 /// Returns the GB code of a code point, or 0 when it has none.
 VELKORD_API uint32_t unitoc(uint32_t code);
-
 /// Returns the GB code of `n` bytes, at most 2; missing bytes count as 0.
 VELKORD_API uint32_t zhToWc(const uint8_t* in, uint32_t n);
-
 /// Writes the two bytes of a GB code to `out` and 2 to `outLen`.
 VELKORD_API void wcToZh(uint8_t* out, uint32_t* outLen, int32_t code);
 
-/// Turns GB2312 text, two bytes a character, into UTF-8; an odd last byte is ignored. `out` needs 3
-/// bytes for each pair.
+/// Turns GB2312 text into UTF-8, 3 bytes at most for each pair of bytes. An odd byte is ignored.
 VELKORD_API void zhsToUtf8s(const uint8_t* in, int32_t inLen, uint8_t* out, uint32_t* outLen);
-
-/// Turns UTF-8 text into GB2312. ASCII passes through; a character that GB2312 lacks, and malformed
-/// input, leaves its first byte. `in` may be null, which gives `outLen` 0. `out` needs `inLen`
-/// bytes.
+/// Turns UTF-8 text into GB2312. ASCII stays as it is; of a character that GB2312 lacks, and of
+/// malformed input, the first byte is kept. A null `in` is no text. `out` needs `inLen` bytes.
 VELKORD_API void utf8sToZhs(const uint8_t* in, uint32_t inLen, uint8_t* out, uint32_t* outLen);
-
-/// @}
 
 #ifdef __cplusplus
 }  // extern "C"

@@ -65,7 +65,7 @@ class Function(NamedTuple):
 RULE = r"// -+\n"
 ITEMS = re.compile(
     rf"(?P<blank>\s+)"
-    rf"|{RULE}(?P<section>(?:///? [^-].*\n)+){RULE}"
+    rf"|{RULE}/// @defgroup \w+ (?P<title>.*)\n(?P<about>(?:/// .*\n)*)"
     rf"|(?P<text>(?:///.*\n)+)"
     rf"|enum \{{(?P<constants>[^}}]*)\}};"
     rf"|typedef struct (?P<record>\w+) \{{(?P<fields>[^}}]*)\}} (?P=record);"
@@ -79,16 +79,13 @@ def plain(comment):
     return " ".join(re.sub(r"^\s*//+<?", "", comment, flags=re.MULTILINE).split())
 
 
-def section_text(comment):
+def section_text(title, about):
     """The title of a group, and what is said about all of it."""
-    marks = re.compile(r"^/// @(defgroup \w+ |\{\n)", re.MULTILINE)
-    title, *more = marks.sub("", comment).splitlines()
-    return plain(title) + (". " + plain("\n".join(more)) if more else "")
+    return title + (". " + plain(about) if about else "")
 
 
 def first_sentence(comment):
-    text = plain(re.sub(r"^/// @.*", "", comment, flags=re.MULTILINE))
-    return re.match(r"(?:.*?[.](?= |$))?", text)[0]
+    return re.match(r"(?:.*?[.](?= |$))?", plain(comment))[0]
 
 
 def declarations(text, separator):
@@ -125,8 +122,8 @@ def read_header():
             line = header.count("\n", 0, position) + 1
             sys.exit(f"{HEADER}:{line}: not understood: {header[position:].splitlines()[0]}")
         position = match.end()
-        if match["section"]:
-            items.append(Section(section_text(match["section"])))
+        if match["title"]:
+            items.append(Section(section_text(match["title"], match["about"])))
         elif match["text"]:
             text = first_sentence(match["text"])
         elif match["constants"]:

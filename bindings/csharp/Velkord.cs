@@ -13,24 +13,22 @@ public static class Velkord
     private const string Library = "Velkord";
     private const CallingConvention Cdecl = CallingConvention.Cdecl;
 
-    // ==== Return codes. What functions return.
+    // ==== Return codes. What each means, by the first word of a comment or by family.
     // Success.
     public const int VELKORD_OK = 0;
-    // A length of more than 4 subsequent octets; a child that overruns its parent, has the
-    // indefinite length or is missing; out of memory for a node; all that a function of EC keys
-    // refuses, and of RSA keys all that is not -2 or -7.
+    // No memory, a length too long, a child that does not fit.
     public const int VELKORD_FAILURE = -1;
-    // Tag, length and content do not add up to the bytes given, or the length is indefinite.
+    // Tag, length and content are not the bytes given.
     public const int VELKORD_SIZE_MISMATCH = -2;
-    // A time value below 0.
+    // A time below 0.
     public const int VELKORD_NEGATIVE_TIME = -4;
-    // A time text without its digits or its final "Z".
+    // A malformed time text.
     public const int VELKORD_BAD_TIME = -5;
-    // Not the SEQUENCE, SET, time form or string type that is needed.
+    // Another type than the one that is needed.
     public const int VELKORD_WRONG_TAG = -7;
     // A null argument, or a required field that was never set.
     public const int VELKORD_NULL_ARGUMENT = -8;
-    // Out of memory for a record; or a time outside 1970 to 2038.
+    // No memory for a record, or a time outside 1970 to 2038.
     public const int VELKORD_OUT_OF_MEMORY = -7000;
 
     // ==== Records. What functions fill and read, field by field.
@@ -284,121 +282,26 @@ public static class Velkord
         public IntPtr entriesB;
     }
 
-    // ==== Value nodes. The value that all others are made of.
+    // ==== Value nodes
 
     // Makes a content node with a copy of `length` bytes.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_CreateAnybuf(byte[] bytes, uint length, byte type,
         ref IntPtr @out);
 
-    // Releases `node` and every node after it, each with its `data`.
+    // Makes a node of DER bytes, unchanged.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_WriteExplicitFromDERData(byte[] bytes, uint length,
+        ref IntPtr @out);
+
+    // Releases `node` and every node after it, so it is for the head of a chain only.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern void ASN1_FreeAnybuf(IntPtr node);
 
-    // Releases a record and its `data`; `next` is not followed.
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern void ASN1_FreeObjectID(IntPtr record);
+    // ==== Byte and character strings, ENUMERATED, BOOLEAN, NULL. Writing differs by the tag alone;
+    // ==== reading is the same for all. CharString is PrintableString.
 
-    // ==== INTEGER. Unsigned magnitudes, big-endian.
-
-    // Gives the DER content octets of `value`, 1 to 5 of them, and their count in a cell of its
-    // own.
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int Asn1LowIntToChar(uint value, ref IntPtr outBytes,
-        ref IntPtr outLength);
-
-    // Makes the TLV node of a number.
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_WriteInteger(uint value, ref IntPtr @out);
-
-    // Reads the number of a TLV node of any type: its low 32 bits.
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_ReadInteger(IntPtr source, ref uint value);
-
-    // Makes an INTEGER TLV node over a magnitude: a zero octet goes in front of a first byte of
-    // 0x80 or more; leading zeros stay.
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_WriteIntegerArray(IntPtr source, ref IntPtr @out);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_WriteIntegerArrayFromBytes(byte[] bytes, uint length,
-        ref IntPtr @out);
-
-    // ==== SEQUENCE and SET. Chains of TLV nodes.
-
-    // Starts a chain with a copy of `element`; its `next` is not followed.
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_CreateSequence(IntPtr element, ref IntPtr @out);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_CreateSet(IntPtr element, ref IntPtr @out);
-
-    // Appends a copy of `element` at the end of `chain`, to which it walks.
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern void ASN1_AddSequence(IntPtr element, IntPtr chain);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern void ASN1_AddSet(IntPtr element, IntPtr chain);
-
-    // Releases a whole chain, as `ASN1_FreeAnybuf` does.
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern void ASN1_FreeSequence(IntPtr chain);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern void ASN1_FreeSet(IntPtr chain);
-
-    // Makes one SEQUENCE or SET TLV node over the bytes of a chain, in the chain's order; a null
-    // chain gives an empty element.
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_WriteSequence(IntPtr chain, ref IntPtr @out);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_WriteSet(IntPtr chain, ref IntPtr @out);
-
-    // Splits one SEQUENCE or SET, in a TLV node or in plain bytes, into the chain of its direct
-    // children, each a whole TLV node.
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_ReadSequence(IntPtr source, ref IntPtr @out);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_ReadSet(IntPtr source, ref IntPtr @out);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_WriteSequenceFromDERBytes(byte[] bytes, uint length,
-        ref IntPtr @out);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_WriteSetFromDERData(byte[] bytes, uint length, ref IntPtr @out);
-
-    // ==== OBJECT IDENTIFIER. Dotted text, content octets and TLV nodes.
-
-    // Turns dotted text of `textLength` characters into content octets; blanks may stand for
-    // points.
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_OBJECT_a2d([In, Out] byte[] @out, ref uint outLength, byte[] text,
-        int textLength);
-
-    // Makes an OBJECT IDENTIFIER TLV node over content octets; `id` has no effect.
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_WriteObjectId(IntPtr record, ref IntPtr @out);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_WriteObjectIdFromData(int id, byte[] bytes, uint length,
-        ref IntPtr @out);
-
-    // Reads the content of a TLV node of any type into a new record.
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_ReadObjectId(IntPtr source, ref IntPtr @out);
-
-    // Copies the content of a TLV node of any type to `out`, which needs room for all of it.
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_ReadObjectIdToBytes(IntPtr source, [In, Out] byte[] @out,
-        ref uint outLength);
-
-    // ==== Byte and character strings, ENUMERATED, BOOLEAN, NULL. Writing differs by the tag alone,
-    // ==== and reading is the same for all.
-
-    // Makes a TLV node over a content node of any type.
+    // Makes an element over a content node of any type.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_WriteOctetString(IntPtr source, ref IntPtr @out);
 
@@ -423,7 +326,7 @@ public static class Velkord
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_WritePrintableString(IntPtr source, ref IntPtr @out);
 
-    // Makes a TLV node over content bytes.
+    // Makes an element over content bytes.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_WriteOctetStringFromBytes(byte[] bytes, uint length,
         ref IntPtr @out);
@@ -448,31 +351,44 @@ public static class Velkord
     public static extern int ASN1_WriteIa5StringFromBytes(byte[] bytes, uint length,
         ref IntPtr @out);
 
-    // As above: a PrintableString when `selector` is not 0, a BMPString when it is.
+    // Makes a PrintableString over content bytes when `selector` is not 0, and a BMPString when it
+    // is.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_WritePrintableStringFromBytes(int selector, byte[] bytes,
         uint length, ref IntPtr @out);
 
-    // Stores the DER of a whole BIT STRING unchanged in a TLV node; `unusedBits` is the octet
-    // behind the header.
+    // Other names of `ASN1_WriteExplicitFromDERData`; none tests the type.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_WriteOctetStringFromDERBytes(byte[] bytes, uint length,
+        ref IntPtr @out);
+
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_WriteCharStringFromDERBytes(byte[] bytes, uint length,
+        ref IntPtr @out);
+
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_WriteUTF8StringFromDERBytes(byte[] bytes, uint length,
+        ref IntPtr @out);
+
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_WriteBmpStringFromDERBytes(byte[] bytes, uint length,
+        ref IntPtr @out);
+
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_WriteIa5StringFromDERBytes(byte[] bytes, uint length,
+        ref IntPtr @out);
+
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_WritePrintableStringFromDERBytes(byte[] bytes, uint length,
+        ref IntPtr @out);
+
+    // Reads the DER bytes of a BIT STRING into a node, unchanged; `unusedBits` is the octet after
+    // the header.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_WriteBitStringFromDERBytes(byte[] bytes, uint length,
         ref IntPtr @out);
 
-    // Makes the TLV node of a BOOLEAN with the byte at `value` unchanged.
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_WriteBoolean(byte[] value, ref IntPtr @out);
-
-    // Gives the first content octet of a TLV node of any type as it stands: that of a BIT STRING is
-    // its unused-bits octet.
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_ReadBoolean(IntPtr source, [In, Out] byte[] value);
-
-    // Makes the TLV node of a NULL.
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_WriteNull(ref IntPtr @out);
-
-    // Makes the content node of a TLV node of any type; `dataType` is the tag that was read.
+    // Reads an element of any type into a content node; `dataType` is the tag that was read.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_ReadBitString(IntPtr source, ref IntPtr @out);
 
@@ -489,9 +405,6 @@ public static class Velkord
     public static extern int ASN1_ReadIa5String(IntPtr source, ref IntPtr @out);
 
     [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_ReadIntegerArray(IntPtr source, ref IntPtr @out);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_ReadOctetString(IntPtr source, ref IntPtr @out);
 
     [DllImport(Library, CallingConvention = Cdecl)]
@@ -500,17 +413,13 @@ public static class Velkord
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_ReadUTF8String(IntPtr source, ref IntPtr @out);
 
-    // Copies that content to `out` and its size to `outLength`.
+    // Reads the same content into `out` and its size into `outLength`.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_ReadCharStringToBytes(IntPtr source, [In, Out] byte[] @out,
         ref uint outLength);
 
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_ReadIa5StringToBytes(IntPtr source, [In, Out] byte[] @out,
-        ref uint outLength);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_ReadIntegerArrayToBytes(IntPtr source, [In, Out] byte[] @out,
         ref uint outLength);
 
     [DllImport(Library, CallingConvention = Cdecl)]
@@ -525,16 +434,145 @@ public static class Velkord
     public static extern int ASN1_ReadUTF8StringToBytes(IntPtr source, [In, Out] byte[] @out,
         ref uint outLength);
 
-    // The same for BMP text: of each pair of bytes a zero high byte is left out, and an odd last
-    // byte too.
+    // Reads the same of BMP text without the high bytes that are zero and without an odd last byte.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_ReadBmpStringToBytes(IntPtr source, [In, Out] byte[] @out,
         ref uint outLength);
 
-    // ==== Tags and raw DER. EXPLICIT and IMPLICIT tags, and DER bytes stored as they are.
+    // Makes a BOOLEAN with the byte at `value` unchanged.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_WriteBoolean(byte[] value, ref IntPtr @out);
 
-    // Makes a TLV node of tag octet `tagNumber | 0xA0` around the source's bytes, or around plain
-    // bytes; of `tagNumber` the low byte counts.
+    // Reads the first content octet of an element of any type, of a BIT STRING its unused-bits
+    // octet.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_ReadBoolean(IntPtr source, [In, Out] byte[] value);
+
+    // Makes a NULL.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_WriteNull(ref IntPtr @out);
+
+    // ==== INTEGER. Numbers are unsigned; those of any size are big-endian bytes.
+
+    // Makes the content octets of a number, 1 to 5 of them, and their count in a cell of its own.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int Asn1LowIntToChar(uint value, ref IntPtr outBytes,
+        ref IntPtr outLength);
+
+    // Makes the INTEGER of a number.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_WriteInteger(uint value, ref IntPtr @out);
+
+    // Reads the low 32 bits of the number in an element of any type.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_ReadInteger(IntPtr source, ref uint value);
+
+    // Makes an INTEGER over a content node of any type or over bytes: a zero octet goes in front of
+    // a first byte of 0x80 or more; leading zeros stay.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_WriteIntegerArray(IntPtr source, ref IntPtr @out);
+
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_WriteIntegerArrayFromBytes(byte[] bytes, uint length,
+        ref IntPtr @out);
+
+    // Another name of `ASN1_WriteExplicitFromDERData`.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_WriteIntegerArrayFromDERBytes(byte[] bytes, uint length,
+        ref IntPtr @out);
+
+    // Another name of `ASN1_ReadBitString`.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_ReadIntegerArray(IntPtr source, ref IntPtr @out);
+
+    // Another name of `ASN1_ReadOctetStringToBytes`.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_ReadIntegerArrayToBytes(IntPtr source, [In, Out] byte[] @out,
+        ref uint outLength);
+
+    // ==== OBJECT IDENTIFIER
+
+    // Turns dotted text of `textLength` characters into content octets; blanks may stand for
+    // points.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_OBJECT_a2d([In, Out] byte[] @out, ref uint outLength, byte[] text,
+        int textLength);
+
+    // Makes an OBJECT IDENTIFIER over content octets; `id` has no effect.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_WriteObjectId(IntPtr record, ref IntPtr @out);
+
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_WriteObjectIdFromData(int id, byte[] bytes, uint length,
+        ref IntPtr @out);
+
+    // Another name of `ASN1_WriteExplicitFromDERData`.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_WriteObjectIdFromDERBytes(byte[] bytes, uint length,
+        ref IntPtr @out);
+
+    // Reads the content of an element of any type into a new record.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_ReadObjectId(IntPtr source, ref IntPtr @out);
+
+    // Releases a record and its `data`; `next` is not followed.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern void ASN1_FreeObjectID(IntPtr record);
+
+    // Another name of `ASN1_ReadOctetStringToBytes`.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_ReadObjectIdToBytes(IntPtr source, [In, Out] byte[] @out,
+        ref uint outLength);
+
+    // ==== SEQUENCE and SET. Chains are built, joined and split. The order of the elements stays as
+    // ==== it is, in a SET too.
+
+    // Makes a chain of one node, a copy of `element`; its `next` is not followed.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_CreateSequence(IntPtr element, ref IntPtr @out);
+
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_CreateSet(IntPtr element, ref IntPtr @out);
+
+    // Appends a copy of `element` at the end of `chain`, to which it walks.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern void ASN1_AddSequence(IntPtr element, IntPtr chain);
+
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern void ASN1_AddSet(IntPtr element, IntPtr chain);
+
+    // Other names of `ASN1_FreeAnybuf`.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern void ASN1_FreeSequence(IntPtr chain);
+
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern void ASN1_FreeSet(IntPtr chain);
+
+    // Makes one SEQUENCE or SET over the bytes of a chain; a null chain makes an empty element.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_WriteSequence(IntPtr chain, ref IntPtr @out);
+
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_WriteSet(IntPtr chain, ref IntPtr @out);
+
+    // Opens a SEQUENCE or SET, in a node or in bytes: the chain of its children, null for none.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_ReadSequence(IntPtr source, ref IntPtr @out);
+
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_ReadSet(IntPtr source, ref IntPtr @out);
+
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_WriteSequenceFromDERBytes(byte[] bytes, uint length,
+        ref IntPtr @out);
+
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_WriteSetFromDERData(byte[] bytes, uint length, ref IntPtr @out);
+
+    // ==== EXPLICIT and IMPLICIT tags. Of a tag number the low byte counts.
+
+    // Makes an element of tag octet `tagNumber | 0xA0` around a node of either form, or around
+    // bytes.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_WriteExplicit(IntPtr source, byte tagNumber, ref IntPtr @out);
 
@@ -542,8 +580,8 @@ public static class Velkord
     public static extern int ASN1_WriteExplicitFromData(uint tagNumber, byte[] bytes, uint length,
         ref IntPtr @out);
 
-    // Opens a TLV node of any type: its content as `ASN1_ReadBitString` gives it, and its reduced
-    // tag (0xA3 for `[3]`).
+    // Reads an element of any type: its content as `ASN1_ReadBitString` does, and its reduced tag,
+    // 0xA3 for `[3]`.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_ReadExplicit(IntPtr source, ref IntPtr @out, ref uint outTag);
 
@@ -551,244 +589,226 @@ public static class Velkord
     public static extern int ASN1_ReadExplicitToBytes(IntPtr source, [In, Out] byte[] @out,
         ref uint outLength, ref uint outTag);
 
-    // Makes a TLV node with the source's content under another tag: `tagNumber | 0xA0` for a source
-    // of `dataType` 16 or 17, `tagNumber | 0x80` otherwise; the low byte counts.
+    // Reads an element and makes one of the same content under another tag: `tagNumber | 0xA0` for
+    // a source of `dataType` 16 or 17, `tagNumber | 0x80` otherwise.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_WriteImplicit(IntPtr source, uint tagNumber, ref IntPtr @out);
 
-    // Opens an element under an IMPLICIT tag.
+    // Reads an element under an IMPLICIT tag.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_ReadImplicit(IntPtr source, ref IntPtr @out,
         ref uint outTagNumber);
 
-    // Stores DER bytes unchanged in a TLV node; only the tag is read.
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_WriteExplicitFromDERData(byte[] bytes, uint length,
-        ref IntPtr @out);
+    // ==== Time. A time is a number of seconds since 1 January 1970. The text of an element is the
+    // ==== machine's local time followed by "Z", so it is UTC only where the local zone is UTC. The
+    // ==== zone is that of the C library: the one that TZ names at the call, or without TZ the one
+    // ==== that it has read; whoever changes that calls `tzset`, on Windows `_tzset`.
 
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_WriteBmpStringFromDERBytes(byte[] bytes, uint length,
-        ref IntPtr @out);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_WriteCharStringFromDERBytes(byte[] bytes, uint length,
-        ref IntPtr @out);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_WriteIa5StringFromDERBytes(byte[] bytes, uint length,
-        ref IntPtr @out);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_WriteIntegerArrayFromDERBytes(byte[] bytes, uint length,
-        ref IntPtr @out);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_WriteObjectIdFromDERBytes(byte[] bytes, uint length,
-        ref IntPtr @out);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_WriteOctetStringFromDERBytes(byte[] bytes, uint length,
-        ref IntPtr @out);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_WritePrintableStringFromDERBytes(byte[] bytes, uint length,
-        ref IntPtr @out);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_WriteUTF8StringFromDERBytes(byte[] bytes, uint length,
-        ref IntPtr @out);
-
-    // ==== Time. Seconds since 1 January 1970 against local time text.
-
-    // Makes the TLV node of a time.
+    // Makes the element of a time.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_WriteGeneralizedTime([In] ref int time, ref IntPtr @out);
 
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_WriteUtcTime([In] ref int time, ref IntPtr @out);
 
-    // Reads the time of a TLV node as local time.
+    // Reads the time of an element of that form.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_ReadGeneralizedTime(IntPtr source, ref int time);
 
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_ReadUtcTime(IntPtr source, ref int time);
 
-    // ==== Names. Attributes, relative names and names.
+    // ==== Names. A name is a SEQUENCE of relative names, and a relative name a SET of attributes.
+    // ==== The value of an attribute is a UTF8String, PrintableString or IA5String; for another
+    // ==== type a function that looks at it returns `VELKORD_WRONG_TAG`.
 
-    // Makes a record with copies of two TLV nodes.
+    // Creates a record with copies of two nodes.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_SetAttributeTypeAndValue(IntPtr type, IntPtr value,
         ref IntPtr @out);
 
-    // Makes the SEQUENCE TLV node of an attribute.
+    // Releases a record.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern void ASN1_FreeAttributeTypeAndValue(IntPtr record);
+
+    // Makes the SEQUENCE of an attribute.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_GetDerAttributeTypeAndValue(IntPtr record, ref IntPtr @out);
 
-    // Opens the SEQUENCE TLV node of an attribute: its OBJECT IDENTIFIER and its UTF8String,
-    // PrintableString or IA5String as new TLV nodes.
+    // Opens the SEQUENCE of an attribute: its OBJECT IDENTIFIER and its value as new nodes.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_DecodeDerAttributeTypeAndValue(IntPtr source, ref IntPtr outType,
         ref IntPtr outValue);
 
-    // Releases a record and its nodes.
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern void ASN1_FreeAttributeTypeAndValue(IntPtr record);
-
-    // The SET of a relative name: written as `ASN1_WriteSet` does, split as `ASN1_ReadSet` and
-    // `ASN1_WriteSetFromDERData` do.
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_GetDerRelativeDistinguishedName(IntPtr chain, ref IntPtr @out);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_ReadRelativeDistinguishedName(IntPtr source, ref IntPtr @out);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_ReadRelativeDistinguishedNameFromByte(byte[] bytes, uint length,
-        ref IntPtr @out);
-
-    // Makes the SET TLV node of a relative name with one attribute, from a string TLV node of
-    // `dataType` 12, 19 or 22 and the attribute's OID as dotted text; `id` has no effect.
+    // Makes the SET of a relative name with one attribute, from its value and its OID as dotted
+    // text; `id` has no effect.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_GetDerRelativeDistinguishedNameOne(IntPtr value, int id,
         byte[] oidText, int oidTextLength, ref IntPtr @out);
 
-    // Opens the SET TLV node of a relative name and gives its first attribute: the value's bytes, a
-    // UTF8String turned into GB2312 by `utf8sToZhs`, and the OID's content octets.
+    // Opens the SET of a relative name and copies the value and the OID's octets of its first
+    // attribute, a UTF8String turned into GB2312 by `utf8sToZhs`.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_DecodeDerRelativeDistinguishedNameOne(IntPtr source,
         [In, Out] byte[] value, ref uint valueLength, [In, Out] byte[] oid, ref uint oidLength);
 
-    // `ASN1_CreateSet` under the names of what is listed.
+    // Other names of `ASN1_CreateSet`: start a chain of relative names or of attributes.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_CreateName(IntPtr element, ref IntPtr @out);
 
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_CreateRelativeDistinguishedName(IntPtr element, ref IntPtr @out);
 
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_CreateExtensions(IntPtr element, ref IntPtr @out);
-
-    // `ASN1_AddSet` under the names of what is listed: the element first, the chain second.
+    // Other names of `ASN1_AddSet`: the element first, the chain second.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern void ASN1_AddName(IntPtr element, IntPtr chain);
 
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern void ASN1_AddRelativeDistinguishedName(IntPtr element, IntPtr chain);
 
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern void ASN1_AddExtensions(IntPtr element, IntPtr chain);
-
-    // `ASN1_WriteSequence` under the names of what is listed.
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_GetDerName(IntPtr chain, ref IntPtr @out);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_WriteExtensions(IntPtr chain, ref IntPtr @out);
-
-    // `ASN1_ReadSequence` under the names of what is listed.
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_ReadDerName(IntPtr source, ref IntPtr @out);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_ReadExtensions(IntPtr source, ref IntPtr @out);
-
-    // `ASN1_FreeAnybuf` under the names of what is released.
+    // Other names of `ASN1_FreeAnybuf`.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern void ASN1_FreeNames(IntPtr chain);
 
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern void ASN1_FreeRelativeDistinguishedName(IntPtr chain);
 
+    // Another name of `ASN1_WriteSequence`.
     [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern void ASN1_FreeExtension(IntPtr chain);
+    public static extern int ASN1_GetDerName(IntPtr chain, ref IntPtr @out);
 
+    // Another name of `ASN1_ReadSequence`.
     [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern void ASN1_FreeExtensions(IntPtr chain);
+    public static extern int ASN1_ReadDerName(IntPtr source, ref IntPtr @out);
 
+    // Another name of `ASN1_WriteSet`.
     [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern void ASN1_FreeAlgorithmIdentifier(IntPtr chain);
+    public static extern int ASN1_GetDerRelativeDistinguishedName(IntPtr chain, ref IntPtr @out);
 
+    // Another name of `ASN1_ReadSet`.
     [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern void ASN1_FreeSubjectPublicKeyInfo(IntPtr chain);
+    public static extern int ASN1_ReadRelativeDistinguishedName(IntPtr source, ref IntPtr @out);
 
+    // Another name of `ASN1_WriteSetFromDERData`.
     [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern void ASN1_FreeRSAPublicKey(IntPtr chain);
+    public static extern int ASN1_ReadRelativeDistinguishedNameFromByte(byte[] bytes, uint length,
+        ref IntPtr @out);
 
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern void ASN1_FreeValidity(IntPtr chain);
+    // ==== Validity, algorithms and public keys
 
-    // ==== Validity, algorithm and key info. Parts that certificates and requests share.
-
-    // Makes the SEQUENCE TLV node of two TLV nodes: notBefore and notAfter, or modulus and
-    // exponent.
+    // Makes the SEQUENCE of two times, which are not tested.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_SetValidity(IntPtr notBefore, IntPtr notAfter, ref IntPtr @out);
 
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_SetRSAPublicKey(IntPtr modulus, IntPtr exponent, ref IntPtr @out);
-
-    // Reads both times of a Validity TLV node, in either form; of more than two the last is
-    // notAfter.
+    // Opens a Validity and reads both times, in either form; of more than two the last is notAfter.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_GetValidity(IntPtr source, ref int notBefore, ref int notAfter);
 
-    // Opens the SEQUENCE TLV node of an RSA public key: both numbers as new INTEGER TLV nodes,
-    // positive; of more than two elements the last is the exponent.
+    // Another name of `ASN1_FreeAnybuf`.
     [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_GetRSAPublicKey(IntPtr source, ref IntPtr outModulus,
-        ref IntPtr outExponent);
+    public static extern void ASN1_FreeValidity(IntPtr chain);
 
-    // Makes an AlgorithmIdentifier TLV node of `oid` and one more element: `parameter` when it is
-    // not null, else NULL when `mode` is 1, else `alternative`, which must then be there.
+    // Makes an AlgorithmIdentifier of `oid` and one more element: `parameter` when it is not null,
+    // else NULL when `mode` is 1, else `alternative`, which must then be there.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_SetAlgorithmIdentifier(uint mode, IntPtr oid, IntPtr alternative,
         IntPtr parameter, ref IntPtr @out);
 
-    // Opens an AlgorithmIdentifier TLV node.
+    // Opens an AlgorithmIdentifier.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_GetAlgorithmIdentifier(IntPtr source, ref IntPtr outOid,
         ref IntPtr outSequence, ref IntPtr outParameterOid);
 
-    // Makes a SubjectPublicKeyInfo TLV node: a copy of `algorithm`, then a BIT STRING over the
-    // bytes of `key`, written as `ASN1_WriteBitStringFromBytes` does.
+    // Another name of `ASN1_FreeAnybuf`.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern void ASN1_FreeAlgorithmIdentifier(IntPtr chain);
+
+    // Makes a SubjectPublicKeyInfo: a copy of `algorithm`, then a BIT STRING over the bytes of
+    // `key`, a node of either form, as `ASN1_WriteBitStringFromBytes` writes it.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_SetSubjectPublicKeyInfo(IntPtr algorithm, IntPtr key,
         ref IntPtr @out);
 
-    // Opens a SubjectPublicKeyInfo TLV node: AlgorithmIdentifier and BIT STRING as new TLV nodes,
-    // the unused-bits octet always 0.
+    // Opens a SubjectPublicKeyInfo: both parts as new nodes, the unused-bits octet always 0.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_GetSubjectPublicKeyInfo(IntPtr source, ref IntPtr outAlgorithm,
         ref IntPtr outKey);
 
-    // ==== Extensions. Single, and as a list.
+    // Another name of `ASN1_FreeAnybuf`.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern void ASN1_FreeSubjectPublicKeyInfo(IntPtr chain);
 
-    // Makes an Extension TLV node of an OID, a BOOLEAN, which may be null, and an OCTET STRING, all
-    // TLV nodes; none is tested.
+    // Another name of `ASN1_SetValidity`: makes the SEQUENCE of two INTEGERs.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_SetRSAPublicKey(IntPtr modulus, IntPtr exponent, ref IntPtr @out);
+
+    // Opens the SEQUENCE of an RSA public key: both numbers as new INTEGERs, positive; of more than
+    // two elements the last is the exponent.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_GetRSAPublicKey(IntPtr source, ref IntPtr outModulus,
+        ref IntPtr outExponent);
+
+    // Another name of `ASN1_FreeAnybuf`.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern void ASN1_FreeRSAPublicKey(IntPtr chain);
+
+    // ==== Extensions
+
+    // Makes an Extension of an OID, a BOOLEAN, which may be null, and an OCTET STRING; none is
+    // tested.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_SetExtension(IntPtr oid, IntPtr critical, IntPtr value,
         ref IntPtr @out);
 
-    // Makes an Extension TLV node from the OID's content octets and the value's bytes.
+    // Makes an Extension from the OID's content octets and the value's bytes.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_GetExtensionOne(int id, byte[] oid, uint oidLength, uint critical,
         byte[] value, uint valueLength, ref IntPtr @out);
 
-    // Opens an Extension TLV node: OBJECT IDENTIFIER, BOOLEAN and OCTET STRING as new TLV nodes.
+    // Opens an Extension: OBJECT IDENTIFIER, BOOLEAN and OCTET STRING as new nodes.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_GetExtension(IntPtr source, ref IntPtr outOid,
         ref IntPtr outCritical, ref IntPtr outValue);
 
-    // ==== Certificates: the signed part. What is signed of a certificate.
+    // Another name of `ASN1_FreeAnybuf`.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern void ASN1_FreeExtension(IntPtr chain);
 
-    // Makes an empty record.
+    // Another name of `ASN1_CreateSet`: starts a list.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_CreateExtensions(IntPtr element, ref IntPtr @out);
+
+    // Another name of `ASN1_AddSet`: the element first, the chain second.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern void ASN1_AddExtensions(IntPtr element, IntPtr chain);
+
+    // Another name of `ASN1_WriteSequence`.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_WriteExtensions(IntPtr chain, ref IntPtr @out);
+
+    // Another name of `ASN1_ReadSequence`.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_ReadExtensions(IntPtr source, ref IntPtr @out);
+
+    // Another name of `ASN1_FreeAnybuf`.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern void ASN1_FreeExtensions(IntPtr chain);
+
+    // ==== Certificates
+
+    // Creates an empty record.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_CreateTBSCertificate(ref IntPtr @out);
 
-    // Releases a record and its nodes.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_CreateCertificate(ref IntPtr @out);
+
+    // Releases a record.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern void ASN1_FreeTBSCertificate(IntPtr record);
+
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern void ASN1_FreeCertificate(IntPtr record);
 
     // Sets the version number, 2 for a version 3 certificate.
     [DllImport(Library, CallingConvention = Cdecl)]
@@ -799,7 +819,7 @@ public static class Velkord
     public static extern int ASN1_TBSCertificateSetSerialNumber(IntPtr record, byte[] bytes,
         uint length);
 
-    // Sets a field to a copy of a SEQUENCE TLV node, its own length rewritten in shortest form.
+    // Sets a field from a SEQUENCE.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_TBSCertificateSetSignatureAlg(IntPtr record, IntPtr value);
 
@@ -816,131 +836,47 @@ public static class Velkord
     public static extern int ASN1_TBSCertificateSetSubjectPublicKeyInfo(IntPtr record,
         IntPtr value);
 
-    // Sets an optional identifier from a BIT STRING TLV node, under `[1]` or `[2]` IMPLICIT, as
-    // `ASN1_WriteImplicit` does.
+    // Sets an optional identifier, a BIT STRING, under `[1]` or `[2]` as `ASN1_WriteImplicit` does.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_TBSCertificateSetIssuerUniqueID(IntPtr record, IntPtr value);
 
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_TBSCertificateSetSubjectUniqueID(IntPtr record, IntPtr value);
 
-    // Sets the extensions from the TLV node of their list, under `[3]` EXPLICIT.
+    // Sets the extensions under `[3]` EXPLICIT: the bytes of their list, which are not tested.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_TBSCertificateSetExtensions(IntPtr record, IntPtr value);
 
-    // Makes the SEQUENCE TLV node of the record: seven required fields, then each optional one
-    // whose flag is 1.
+    // Makes the SEQUENCE of a record: seven required fields, then the optional ones.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_TBSCertificateWriteData(IntPtr record, ref IntPtr @out);
 
-    // Decodes a TBSCertificate TLV node into a new record.
+    // Decodes a TBSCertificate of seven elements or more.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_TBSCertificateDecode(IntPtr source, ref IntPtr @out);
 
-    // ==== Signed wholes. Certificates, revocation lists, PKCS#10 certification requests and PKCS#6
-    // ==== extended certificates have one shape: what is signed, the algorithm and the signature.
-
-    // Makes an empty record.
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_CreateCertificate(ref IntPtr @out);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_CRL_CreateCertificateList(ref IntPtr @out);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_CreatePKCS10Request(ref IntPtr @out);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_PKCS6_CreateExtendedCertificate(ref IntPtr @out);
-
-    // Releases a record and its nodes.
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern void ASN1_FreeCertificate(IntPtr record);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern void ASN1_CRL_FreeCertificateList(IntPtr record);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern void ASN1_FreePKCS10Request(IntPtr record);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern void ASN1_PKCS6_FreeExtendedCertificate(IntPtr record);
-
-    // Sets the first or the second field to a copy of a SEQUENCE TLV node, its own length rewritten
-    // in shortest form.
+    // Sets the signed part or the algorithm from a SEQUENCE.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_CertificateSetTbsCertificate(IntPtr record, IntPtr value);
 
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_CertificateSetSignatureAlgorithm(IntPtr record, IntPtr value);
 
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_CRL_SetCertificateListTBSCertList(IntPtr record, IntPtr value);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_CRL_SetCertificateListAlgorithmIdentifier(IntPtr record,
-        IntPtr value);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_PKCS10RequestSetCertificationRequestInfo(IntPtr record,
-        IntPtr value);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_PKCS10RequestSetAlgorithmIdentifier(IntPtr record, IntPtr value);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_PKCS6_SetCertificateCertificateInfo(IntPtr record, IntPtr value);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_PKCS6_SetCertificateSignatureAlgorithmIdentifier(IntPtr record,
-        IntPtr value);
-
-    // Sets the signature to a copy of a BIT STRING TLV node, as `ASN1_WriteBitStringFromDERBytes`
-    // does.
+    // Sets the signature from a BIT STRING, as `ASN1_WriteBitStringFromDERBytes` does.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_CertificateSetSignatureValue(IntPtr record, IntPtr value);
 
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_CRL_SetCertificateListSignatureValue(IntPtr record, IntPtr value);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_PKCS10RequestSetSignature(IntPtr record, IntPtr value);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_PKCS6_SetCertificateSignature(IntPtr record, IntPtr value);
-
-    // Makes the SEQUENCE TLV node of the three fields.
+    // Makes the SEQUENCE of a record, all three fields.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_CertificateWriteData(IntPtr record, ref IntPtr @out);
 
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_CRL_CertificateListWriteData(IntPtr record, ref IntPtr @out);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_PKCS10RequestWriteData(IntPtr record, ref IntPtr @out);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_PKCS6_CertificateWriteData(IntPtr record, ref IntPtr @out);
-
-    // Decodes DER of exactly `length` bytes into a new record.
+    // Decodes a certificate.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_CertificateDecode(byte[] bytes, uint length, ref IntPtr @out);
 
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_CRL_CertificateListDecode(byte[] bytes, uint length,
-        ref IntPtr @out);
+    // ==== Certificate inspection. Of the DER that is looked into, malformed parts are skipped.
 
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_PKCS10RequestDecode(byte[] bytes, uint length, ref IntPtr @out);
-
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_PKCS6_CertificateDecode(byte[] bytes, uint length,
-        ref IntPtr @out);
-
-    // ==== Certificate inspection. The subject of a decoded certificate, and a value in its
-    // ==== extensions.
-
-    // Makes an empty record and also stores it in `out`, which may be null.
+    // Makes an empty record, and stores it in `out` too unless that is null.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern IntPtr X509CertCreate(ref IntPtr @out);
 
@@ -959,57 +895,57 @@ public static class Velkord
     public static extern int X509CertGetOIDValue(IntPtr record, byte[] oidText, int textLength,
         [In, Out] byte[] value, ref uint valueLength);
 
-    // ==== Revocation lists: an entry. One revoked certificate.
+    // ==== Revocation lists
 
-    // Makes an empty record.
+    // Creates an empty record.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_CRL_CreateRevokedCertificate(ref IntPtr @out);
 
-    // Releases a record and its nodes.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_CRL_CreateTbsCertList(ref IntPtr @out);
+
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_CRL_CreateCertificateList(ref IntPtr @out);
+
+    // Releases a record.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern void ASN1_CRL_FreeRevokedCertificate(IntPtr record);
 
-    // Sets the serial number to a copy of a TLV node of any type.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern void ASN1_CRL_FreeTbsCertList(IntPtr record);
+
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern void ASN1_CRL_FreeCertificateList(IntPtr record);
+
+    // Sets the serial number, of any type, as `ASN1_WriteExplicitFromDERData` does.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_CRL_SetRevokedCertificateCertificateSerialNumber(IntPtr record,
         IntPtr value);
 
-    // Sets the date from a time TLV node, read and written again in the form that it has.
+    // Sets the date from a time, read and written again in the form that it has.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_CRL_SetRevokedCertificateRevocationDate(IntPtr record,
         IntPtr value);
 
-    // Sets the extensions to a copy of a SEQUENCE TLV node, its own length rewritten in shortest
-    // form.
+    // Sets the extensions from a SEQUENCE.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_CRL_SetRevokedCertificateCrlEntryExtensions(IntPtr record,
         IntPtr value);
 
-    // Makes the SEQUENCE TLV node of the entry, with extensions when their flag is 1.
+    // Makes the SEQUENCE of a record, the extensions being optional.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_CRL_RevokedCertificateWriteData(IntPtr record, ref IntPtr @out);
 
-    // Decodes the DER of one entry of exactly `length` bytes into a new record.
+    // Decodes an entry.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_CRL_RevokedCertificateDecode(byte[] bytes, uint length,
         ref IntPtr @out);
 
-    // ==== Revocation lists: the signed part. What is signed of a list.
-
-    // Makes an empty record.
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern int ASN1_CRL_CreateTbsCertList(ref IntPtr @out);
-
-    // Releases a record and its nodes.
-    [DllImport(Library, CallingConvention = Cdecl)]
-    public static extern void ASN1_CRL_FreeTbsCertList(IntPtr record);
-
-    // Sets the version number.
+    // Stores the version number.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_CRL_TbsCertListSetVersion(IntPtr record, uint version);
 
-    // Sets a field to a copy of a SEQUENCE TLV node, its own length rewritten in shortest form, and
-    // the flag of an optional one to 1.
+    // Sets a field from a SEQUENCE.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_CRL_TbsCertListSetSignatureAlgorithmIdentifier(IntPtr record,
         IntPtr value);
@@ -1024,116 +960,189 @@ public static class Velkord
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_CRL_TbsCertListSetCrlExtensions(IntPtr record, IntPtr value);
 
-    // Sets the time of this list, in seconds, and the form of both times: 1 for UTCTime, any other
-    // number for GeneralizedTime.
+    // Stores the time of this list, in seconds, and the form of both times: 1 for UTCTime, any
+    // other number for GeneralizedTime.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_CRL_TbsCertListSetThisUpdate(IntPtr record, int time, uint form);
 
-    // Sets the time of the next list, in seconds, and its flag.
+    // Stores the time of the next list, in seconds, and sets its flag.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_CRL_TbsCertListSetNextUpdate(IntPtr record, int time);
 
-    // Makes the SEQUENCE TLV node of the record: each optional field when its flag is 1, the
-    // extensions under `[0]` EXPLICIT.
+    // Makes the SEQUENCE of a record, the extensions under `[0]` EXPLICIT.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_CRL_TbsCertListWriteData(IntPtr record, ref IntPtr @out);
 
-    // Decodes the DER of one signed part of exactly `length` bytes into a new record.
+    // Decodes a TbsCertList.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_CRL_TbsCertListDecode(byte[] bytes, uint length, ref IntPtr @out);
 
-    // ==== PKCS#10: the signed part. What is signed of a request.
+    // Sets the signed part or the algorithm from a SEQUENCE.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_CRL_SetCertificateListTBSCertList(IntPtr record, IntPtr value);
 
-    // Makes an empty record.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_CRL_SetCertificateListAlgorithmIdentifier(IntPtr record,
+        IntPtr value);
+
+    // Sets the signature as `ASN1_CertificateSetSignatureValue` does.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_CRL_SetCertificateListSignatureValue(IntPtr record, IntPtr value);
+
+    // Makes the SEQUENCE of a record, all three fields.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_CRL_CertificateListWriteData(IntPtr record, ref IntPtr @out);
+
+    // Decodes a revocation list.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_CRL_CertificateListDecode(byte[] bytes, uint length,
+        ref IntPtr @out);
+
+    // ==== PKCS#10: certification requests
+
+    // Creates an empty record.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_CreatePKCS10(ref IntPtr @out);
 
-    // Releases a record and its nodes.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_CreatePKCS10Request(ref IntPtr @out);
+
+    // Releases a record.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern void ASN1_FreePKCS10(IntPtr record);
 
-    // Sets the version, 0 for version 1.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern void ASN1_FreePKCS10Request(IntPtr record);
+
+    // Sets the version number, 0 for version 1.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_PKCS10SetVersion(IntPtr record, uint version);
 
-    // Sets a field to a copy of a SEQUENCE TLV node, its own length rewritten in shortest form.
+    // Sets a field from a SEQUENCE.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_PKCS10SetSubject(IntPtr record, IntPtr value);
 
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_PKCS10SetSubjectPublicKeyInfo(IntPtr record, IntPtr value);
 
-    // Sets the attributes from a SET TLV node, under `[0]` IMPLICIT, as `ASN1_WriteImplicit` does.
+    // Sets the attributes, a SET, under `[0]` as `ASN1_WriteImplicit` does.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_PKCS10SetAttributes(IntPtr record, IntPtr value);
 
-    // Makes the SEQUENCE TLV node of the four fields, all of them required.
+    // Makes the SEQUENCE of a record, all four fields.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_PKCS10WriteData(IntPtr record, ref IntPtr @out);
 
-    // Decodes the DER of one signed part of exactly `length` bytes into a new record.
+    // Decodes the signed part of a request.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_PKCS10Decode(byte[] bytes, uint length, ref IntPtr @out);
 
-    // ==== PKCS#6: the signed part. What is signed of an extended certificate.
+    // Sets the signed part or the algorithm from a SEQUENCE.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_PKCS10RequestSetCertificationRequestInfo(IntPtr record,
+        IntPtr value);
 
-    // Makes an empty record.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_PKCS10RequestSetAlgorithmIdentifier(IntPtr record, IntPtr value);
+
+    // Sets the signature as `ASN1_CertificateSetSignatureValue` does.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_PKCS10RequestSetSignature(IntPtr record, IntPtr value);
+
+    // Makes the SEQUENCE of a record, all three fields.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_PKCS10RequestWriteData(IntPtr record, ref IntPtr @out);
+
+    // Decodes a request as `ASN1_CRL_CertificateListDecode` does a list.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_PKCS10RequestDecode(byte[] bytes, uint length, ref IntPtr @out);
+
+    // ==== PKCS#6: extended certificates
+
+    // Creates an empty record.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_PKCS6_CreateExtendedCertificateInfo(ref IntPtr @out);
 
-    // Releases a record and its nodes.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_PKCS6_CreateExtendedCertificate(ref IntPtr @out);
+
+    // Releases a record.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern void ASN1_PKCS6_FreeExtendedCertificateInfo(IntPtr record);
 
-    // Sets the version number.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern void ASN1_PKCS6_FreeExtendedCertificate(IntPtr record);
+
+    // Stores the version number.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_PKCS6_SetCertificateInfoVersion(IntPtr record, uint version);
 
-    // Sets a field to a copy of a SEQUENCE or a SET TLV node, its own length rewritten in shortest
-    // form.
+    // Sets the certificate from a SEQUENCE, or the attributes from a SET.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_PKCS6_SetCertificateInfoX509(IntPtr record, IntPtr value);
 
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_PKCS6_SetCertificateInfoAttributes(IntPtr record, IntPtr value);
 
-    // Makes the SEQUENCE TLV node of the three fields.
+    // Makes the SEQUENCE of a record, all three fields.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_PKCS6_CertificateInfoWriteData(IntPtr record, ref IntPtr @out);
 
-    // Decodes the DER of one signed part of exactly `length` bytes into a new record.
+    // Decodes the signed part.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_PKCS6_CertificateInfoDecode(byte[] bytes, uint length,
         ref IntPtr @out);
 
-    // ==== PKCS#7: the ContentInfo around a message. A content behind the identifier of its type.
+    // Sets the signed part or the algorithm from a SEQUENCE.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_PKCS6_SetCertificateCertificateInfo(IntPtr record, IntPtr value);
 
-    // Makes an empty record.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_PKCS6_SetCertificateSignatureAlgorithmIdentifier(IntPtr record,
+        IntPtr value);
+
+    // Sets the signature as `ASN1_CertificateSetSignatureValue` does.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_PKCS6_SetCertificateSignature(IntPtr record, IntPtr value);
+
+    // Makes the SEQUENCE of a record, all three fields.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_PKCS6_CertificateWriteData(IntPtr record, ref IntPtr @out);
+
+    // Decodes an extended certificate as `ASN1_CRL_CertificateListDecode` does a list.
+    [DllImport(Library, CallingConvention = Cdecl)]
+    public static extern int ASN1_PKCS6_CertificateDecode(byte[] bytes, uint length,
+        ref IntPtr @out);
+
+    // ==== PKCS#7: the ContentInfo of a message
+
+    // Creates an empty record.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_PKCS7_CreateContext(ref IntPtr @out);
 
-    // Releases a record and its nodes.
+    // Releases a record.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern void ASN1_PKCS7_FreeContext(IntPtr record);
 
-    // Sets the content type to a copy of a TLV node of any type.
+    // Sets the content type, of any type, as `ASN1_WriteExplicitFromDERData` does.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_PKCS7_SetContentType(IntPtr record, IntPtr value);
 
-    // Sets the content from a node of any bytes, under `[0]` EXPLICIT.
+    // Sets the content from the bytes of a node of either form, under `[0]` EXPLICIT.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_PKCS7_SetContent(IntPtr record, IntPtr value);
 
-    // Makes the SEQUENCE TLV node of the content type and of the content, if that is set.
+    // Makes the SEQUENCE of a record: the content type, and the content if it is set.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_PKCS7_WriteData(IntPtr record, ref IntPtr @out);
 
-    // Decodes the DER of one ContentInfo of exactly `length` bytes into a new record.
+    // Decodes a ContentInfo.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_PKCS7_Decode(byte[] bytes, uint length, ref IntPtr @out);
 
-    // ==== RSA keys. A null argument gives -1. Nothing is allocated unless record and DER overlap;
-    // ==== then a lack of memory gives -1 and changes nothing.
+    // ==== RSA keys. Keys of at most 2048 bits; `ASN1_SetRSAPublicKey` and `ASN1_GetRSAPublicKey`
+    // ==== take public keys of any size. `VELKORD_FAILURE` also stands for a null argument and,
+    // ==== when record and DER overlap, for a lack of memory; then nothing has changed.
 
     // Writes the DER of a key to `der` and its size to `derLen`: RSAPublicKey, at most 526 bytes,
     // or RSAPrivateKey of PKCS#1, at most 1450.
@@ -1152,7 +1161,9 @@ public static class Velkord
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ZantDecodePrivateKey(ref ZantPrivateKey key, byte[] der, int derLen);
 
-    // ==== Keys of elliptic curves. Nothing is allocated.
+    // ==== Keys of elliptic curves. Keys of 256 bits. Returns `VELKORD_OK`, or `VELKORD_FAILURE`
+    // ==== for all that is refused: a null argument, malformed DER, a missing element. Nothing has
+    // ==== changed then. Nothing is allocated.
 
     // Writes the 312 bytes of a SubjectPublicKeyInfo to `der` and 312 to `derLen`.
     [DllImport(Library, CallingConvention = Cdecl)]
@@ -1169,9 +1180,9 @@ public static class Velkord
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_Der2EccPrikey(byte[] der, uint derLen, ref EccPrikey key);
 
-    // ==== SM2. The result is always 0. What cannot be done, an argument being null or the DER
-    // ==== malformed, leaves all out arguments alone: preset the lengths to 0. Nothing is allocated
-    // ==== unless buffers overlap; a lack of memory then counts as what cannot be done.
+    // ==== SM2. The result is always `VELKORD_OK`. What cannot be done, an argument being null or
+    // ==== the DER malformed, leaves all out arguments alone: preset the lengths to 0. Nothing is
+    // ==== allocated unless buffers overlap; a lack of memory then counts as what cannot be done.
 
     // Writes the SEQUENCE of two positive INTEGERs to `der`, which needs room for both numbers and
     // 20 bytes more.
@@ -1179,29 +1190,28 @@ public static class Velkord
     public static extern int ASN1_SM2_SM2SignatureEncode(byte[] r, uint rLen, byte[] s, uint sLen,
         [In, Out] byte[] der, ref uint derLen);
 
-    // Gives the two numbers of a signature, each without the zero byte that keeps it positive.
+    // Copies the two numbers of a signature, each without the zero byte that keeps it positive.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_SM2_SM2SignatureDecode([In, Out] byte[] r, ref uint rLen,
         [In, Out] byte[] s, ref uint sLen, byte[] der, uint derLen);
 
-    // Writes a private value as an INTEGER to `der`, which needs room for the value and 7 bytes
-    // more.
+    // Writes a private value as an INTEGER to `der`, 7 bytes more at most.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_SM2_PrikeyEncode(byte[] value, uint valueLen,
         [In, Out] byte[] der, ref uint derLen);
 
-    // Gives a private value without the zero byte that keeps it positive.
+    // Copies a private value without the zero byte that keeps it positive.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_SM2_PrikeyDecode([In, Out] byte[] value, ref uint valueLen,
         byte[] der, uint derLen);
 
-    // Writes a public point as a BIT STRING to `der`: 0x04, X and Y, together at most 256 bytes,
-    // and 5 bytes at most in front.
+    // Writes a public point as a BIT STRING to `der`: at most 5 bytes, then 0x04, X and Y, together
+    // at most 256.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_SM2_PubkeyEncode(byte[] x, uint xLen, byte[] y, uint yLen,
         [In, Out] byte[] der, ref uint derLen);
 
-    // Gives the two halves, of equal length, of what follows the first byte of a public point; an
+    // Copies the two halves, of equal length, of what follows the first byte of a public point; an
     // odd last byte is left out.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_SM2_PubkeyDecode([In, Out] byte[] x, ref uint xLen,
@@ -1242,7 +1252,7 @@ public static class Velkord
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int utf8ToUni(byte[] @in, int inLen, ref uint code);
 
-    // Returns the code point of a GB code.
+    // Returns the code point of a GB code, or for one that is not assigned that of a row near it.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern uint ctouni(uint gb);
 
@@ -1258,7 +1268,7 @@ public static class Velkord
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern void wcToZh([In, Out] byte[] @out, ref uint outLen, int code);
 
-    // Turns GB2312 text, two bytes a character, into UTF-8; an odd last byte is ignored.
+    // Turns GB2312 text into UTF-8, 3 bytes at most for each pair of bytes.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern void zhsToUtf8s(byte[] @in, int inLen, [In, Out] byte[] @out,
         ref uint outLen);

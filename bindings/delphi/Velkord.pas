@@ -12,24 +12,22 @@ interface
 const
   VelkordLibrary = {$IFDEF MSWINDOWS}'Velkord.dll'{$ELSE}'libVelkord.so'{$ENDIF};
 
-// ==== Return codes. What functions return.
+// ==== Return codes. What each means, by the first word of a comment or by family.
   // Success.
   VELKORD_OK = 0;
-  // A length of more than 4 subsequent octets; a child that overruns its parent, has the indefinite
-  // length or is missing; out of memory for a node; all that a function of EC keys refuses, and of
-  // RSA keys all that is not -2 or -7.
+  // No memory, a length too long, a child that does not fit.
   VELKORD_FAILURE = -1;
-  // Tag, length and content do not add up to the bytes given, or the length is indefinite.
+  // Tag, length and content are not the bytes given.
   VELKORD_SIZE_MISMATCH = -2;
-  // A time value below 0.
+  // A time below 0.
   VELKORD_NEGATIVE_TIME = -4;
-  // A time text without its digits or its final "Z".
+  // A malformed time text.
   VELKORD_BAD_TIME = -5;
-  // Not the SEQUENCE, SET, time form or string type that is needed.
+  // Another type than the one that is needed.
   VELKORD_WRONG_TAG = -7;
   // A null argument, or a required field that was never set.
   VELKORD_NULL_ARGUMENT = -8;
-  // Out of memory for a record; or a time outside 1970 to 2038.
+  // No memory for a record, or a time outside 1970 to 2038.
   VELKORD_OUT_OF_MEMORY = -7000;
 
 // ==== Records. What functions fill and read, field by field.
@@ -251,111 +249,23 @@ type
     entriesB: PCertWideEntry;
   end;
 
-// ==== Value nodes. The value that all others are made of.
+// ==== Value nodes
 
 // Makes a content node with a copy of `length` bytes.
 function ASN1_CreateAnybuf(ABytes: PByte; ALength: Cardinal; AType: Byte;
   var AOut: PAnybuf): Integer; cdecl; external VelkordLibrary name 'ASN1_CreateAnybuf';
 
-// Releases `node` and every node after it, each with its `data`.
+// Makes a node of DER bytes, unchanged.
+function ASN1_WriteExplicitFromDERData(ABytes: PByte; ALength: Cardinal;
+  var AOut: PAnybuf): Integer; cdecl; external VelkordLibrary name 'ASN1_WriteExplicitFromDERData';
+
+// Releases `node` and every node after it, so it is for the head of a chain only.
 procedure ASN1_FreeAnybuf(ANode: PAnybuf); cdecl; external VelkordLibrary name 'ASN1_FreeAnybuf';
 
-// Releases a record and its `data`; `next` is not followed.
-procedure ASN1_FreeObjectID(ARecord: PObjectID);
-  cdecl; external VelkordLibrary name 'ASN1_FreeObjectID';
+// ==== Byte and character strings, ENUMERATED, BOOLEAN, NULL. Writing differs by the tag alone;
+// ==== reading is the same for all. CharString is PrintableString.
 
-// ==== INTEGER. Unsigned magnitudes, big-endian.
-
-// Gives the DER content octets of `value`, 1 to 5 of them, and their count in a cell of its own.
-function Asn1LowIntToChar(AValue: Cardinal; var AOutBytes: PByte;
-  var AOutLength: PCardinal): Integer; cdecl; external VelkordLibrary name 'Asn1LowIntToChar';
-
-// Makes the TLV node of a number.
-function ASN1_WriteInteger(AValue: Cardinal; var AOut: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_WriteInteger';
-
-// Reads the number of a TLV node of any type: its low 32 bits.
-function ASN1_ReadInteger(ASource: PAnybuf; var AValue: Cardinal): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_ReadInteger';
-
-// Makes an INTEGER TLV node over a magnitude: a zero octet goes in front of a first byte of 0x80 or
-// more; leading zeros stay.
-function ASN1_WriteIntegerArray(ASource: PAnybuf; var AOut: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_WriteIntegerArray';
-
-function ASN1_WriteIntegerArrayFromBytes(ABytes: PByte; ALength: Cardinal;
-  var AOut: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_WriteIntegerArrayFromBytes';
-
-// ==== SEQUENCE and SET. Chains of TLV nodes.
-
-// Starts a chain with a copy of `element`; its `next` is not followed.
-function ASN1_CreateSequence(AElement: PAnybuf; var AOut: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_CreateSequence';
-
-function ASN1_CreateSet(AElement: PAnybuf; var AOut: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_CreateSet';
-
-// Appends a copy of `element` at the end of `chain`, to which it walks.
-procedure ASN1_AddSequence(AElement: PAnybuf; AChain: PAnybuf);
-  cdecl; external VelkordLibrary name 'ASN1_AddSequence';
-
-procedure ASN1_AddSet(AElement: PAnybuf; AChain: PAnybuf);
-  cdecl; external VelkordLibrary name 'ASN1_AddSet';
-
-// Releases a whole chain, as `ASN1_FreeAnybuf` does.
-procedure ASN1_FreeSequence(AChain: PAnybuf);
-  cdecl; external VelkordLibrary name 'ASN1_FreeSequence';
-
-procedure ASN1_FreeSet(AChain: PAnybuf); cdecl; external VelkordLibrary name 'ASN1_FreeSet';
-
-// Makes one SEQUENCE or SET TLV node over the bytes of a chain, in the chain's order; a null chain
-// gives an empty element.
-function ASN1_WriteSequence(AChain: PAnybuf; var AOut: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_WriteSequence';
-
-function ASN1_WriteSet(AChain: PAnybuf; var AOut: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_WriteSet';
-
-// Splits one SEQUENCE or SET, in a TLV node or in plain bytes, into the chain of its direct
-// children, each a whole TLV node.
-function ASN1_ReadSequence(ASource: PAnybuf; var AOut: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_ReadSequence';
-
-function ASN1_ReadSet(ASource: PAnybuf; var AOut: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_ReadSet';
-
-function ASN1_WriteSequenceFromDERBytes(ABytes: PByte; ALength: Cardinal;
-  var AOut: PAnybuf): Integer; cdecl; external VelkordLibrary name 'ASN1_WriteSequenceFromDERBytes';
-
-function ASN1_WriteSetFromDERData(ABytes: PByte; ALength: Cardinal; var AOut: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_WriteSetFromDERData';
-
-// ==== OBJECT IDENTIFIER. Dotted text, content octets and TLV nodes.
-
-// Turns dotted text of `textLength` characters into content octets; blanks may stand for points.
-function ASN1_OBJECT_a2d(AOut: PByte; var AOutLength: Cardinal; AText: PAnsiChar;
-  ATextLength: Integer): Integer; cdecl; external VelkordLibrary name 'ASN1_OBJECT_a2d';
-
-// Makes an OBJECT IDENTIFIER TLV node over content octets; `id` has no effect.
-function ASN1_WriteObjectId(ARecord: PObjectID; var AOut: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_WriteObjectId';
-
-function ASN1_WriteObjectIdFromData(AId: Integer; ABytes: PByte; ALength: Cardinal;
-  var AOut: PAnybuf): Integer; cdecl; external VelkordLibrary name 'ASN1_WriteObjectIdFromData';
-
-// Reads the content of a TLV node of any type into a new record.
-function ASN1_ReadObjectId(ASource: PAnybuf; var AOut: PObjectID): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_ReadObjectId';
-
-// Copies the content of a TLV node of any type to `out`, which needs room for all of it.
-function ASN1_ReadObjectIdToBytes(ASource: PAnybuf; AOut: PByte; var AOutLength: Cardinal): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_ReadObjectIdToBytes';
-
-// ==== Byte and character strings, ENUMERATED, BOOLEAN, NULL. Writing differs by the tag alone, and
-// ==== reading is the same for all.
-
-// Makes a TLV node over a content node of any type.
+// Makes an element over a content node of any type.
 function ASN1_WriteOctetString(ASource: PAnybuf; var AOut: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_WriteOctetString';
 
@@ -380,7 +290,7 @@ function ASN1_WriteEnumerated(ASource: PAnybuf; var AOut: PAnybuf): Integer;
 function ASN1_WritePrintableString(ASource: PAnybuf; var AOut: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_WritePrintableString';
 
-// Makes a TLV node over content bytes.
+// Makes an element over content bytes.
 function ASN1_WriteOctetStringFromBytes(ABytes: PByte; ALength: Cardinal;
   var AOut: PAnybuf): Integer; cdecl; external VelkordLibrary name 'ASN1_WriteOctetStringFromBytes';
 
@@ -399,31 +309,43 @@ function ASN1_WriteBmpStringFromBytes(ABytes: PByte; ALength: Cardinal; var AOut
 function ASN1_WriteIa5StringFromBytes(ABytes: PByte; ALength: Cardinal; var AOut: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_WriteIa5StringFromBytes';
 
-// As above: a PrintableString when `selector` is not 0, a BMPString when it is.
+// Makes a PrintableString over content bytes when `selector` is not 0, and a BMPString when it is.
 function ASN1_WritePrintableStringFromBytes(ASelector: Integer; ABytes: PByte; ALength: Cardinal;
   var AOut: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_WritePrintableStringFromBytes';
 
-// Stores the DER of a whole BIT STRING unchanged in a TLV node; `unusedBits` is the octet behind
-// the header.
+// Other names of `ASN1_WriteExplicitFromDERData`; none tests the type.
+function ASN1_WriteOctetStringFromDERBytes(ABytes: PByte; ALength: Cardinal;
+  var AOut: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_WriteOctetStringFromDERBytes';
+
+function ASN1_WriteCharStringFromDERBytes(ABytes: PByte; ALength: Cardinal;
+  var AOut: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_WriteCharStringFromDERBytes';
+
+function ASN1_WriteUTF8StringFromDERBytes(ABytes: PByte; ALength: Cardinal;
+  var AOut: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_WriteUTF8StringFromDERBytes';
+
+function ASN1_WriteBmpStringFromDERBytes(ABytes: PByte; ALength: Cardinal;
+  var AOut: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_WriteBmpStringFromDERBytes';
+
+function ASN1_WriteIa5StringFromDERBytes(ABytes: PByte; ALength: Cardinal;
+  var AOut: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_WriteIa5StringFromDERBytes';
+
+function ASN1_WritePrintableStringFromDERBytes(ABytes: PByte; ALength: Cardinal;
+  var AOut: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_WritePrintableStringFromDERBytes';
+
+// Reads the DER bytes of a BIT STRING into a node, unchanged; `unusedBits` is the octet after the
+// header.
 function ASN1_WriteBitStringFromDERBytes(ABytes: PByte; ALength: Cardinal;
   var AOut: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_WriteBitStringFromDERBytes';
 
-// Makes the TLV node of a BOOLEAN with the byte at `value` unchanged.
-function ASN1_WriteBoolean(AValue: PByte; var AOut: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_WriteBoolean';
-
-// Gives the first content octet of a TLV node of any type as it stands: that of a BIT STRING is its
-// unused-bits octet.
-function ASN1_ReadBoolean(ASource: PAnybuf; AValue: PByte): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_ReadBoolean';
-
-// Makes the TLV node of a NULL.
-function ASN1_WriteNull(var AOut: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_WriteNull';
-
-// Makes the content node of a TLV node of any type; `dataType` is the tag that was read.
+// Reads an element of any type into a content node; `dataType` is the tag that was read.
 function ASN1_ReadBitString(ASource: PAnybuf; var AOut: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_ReadBitString';
 
@@ -439,9 +361,6 @@ function ASN1_ReadEnumerated(ASource: PAnybuf; var AOut: PAnybuf): Integer;
 function ASN1_ReadIa5String(ASource: PAnybuf; var AOut: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_ReadIa5String';
 
-function ASN1_ReadIntegerArray(ASource: PAnybuf; var AOut: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_ReadIntegerArray';
-
 function ASN1_ReadOctetString(ASource: PAnybuf; var AOut: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_ReadOctetString';
 
@@ -451,7 +370,7 @@ function ASN1_ReadPrintableString(ASource: PAnybuf; var AOut: PAnybuf): Integer;
 function ASN1_ReadUTF8String(ASource: PAnybuf; var AOut: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_ReadUTF8String';
 
-// Copies that content to `out` and its size to `outLength`.
+// Reads the same content into `out` and its size into `outLength`.
 function ASN1_ReadCharStringToBytes(ASource: PAnybuf; AOut: PByte;
   var AOutLength: Cardinal): Integer;
   cdecl; external VelkordLibrary name 'ASN1_ReadCharStringToBytes';
@@ -459,10 +378,6 @@ function ASN1_ReadCharStringToBytes(ASource: PAnybuf; AOut: PByte;
 function ASN1_ReadIa5StringToBytes(ASource: PAnybuf; AOut: PByte;
   var AOutLength: Cardinal): Integer;
   cdecl; external VelkordLibrary name 'ASN1_ReadIa5StringToBytes';
-
-function ASN1_ReadIntegerArrayToBytes(ASource: PAnybuf; AOut: PByte;
-  var AOutLength: Cardinal): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_ReadIntegerArrayToBytes';
 
 function ASN1_ReadOctetStringToBytes(ASource: PAnybuf; AOut: PByte;
   var AOutLength: Cardinal): Integer;
@@ -476,259 +391,363 @@ function ASN1_ReadUTF8StringToBytes(ASource: PAnybuf; AOut: PByte;
   var AOutLength: Cardinal): Integer;
   cdecl; external VelkordLibrary name 'ASN1_ReadUTF8StringToBytes';
 
-// The same for BMP text: of each pair of bytes a zero high byte is left out, and an odd last byte
-// too.
+// Reads the same of BMP text without the high bytes that are zero and without an odd last byte.
 function ASN1_ReadBmpStringToBytes(ASource: PAnybuf; AOut: PByte;
   var AOutLength: Cardinal): Integer;
   cdecl; external VelkordLibrary name 'ASN1_ReadBmpStringToBytes';
 
-// ==== Tags and raw DER. EXPLICIT and IMPLICIT tags, and DER bytes stored as they are.
+// Makes a BOOLEAN with the byte at `value` unchanged.
+function ASN1_WriteBoolean(AValue: PByte; var AOut: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_WriteBoolean';
 
-// Makes a TLV node of tag octet `tagNumber | 0xA0` around the source's bytes, or around plain
-// bytes; of `tagNumber` the low byte counts.
+// Reads the first content octet of an element of any type, of a BIT STRING its unused-bits octet.
+function ASN1_ReadBoolean(ASource: PAnybuf; AValue: PByte): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_ReadBoolean';
+
+// Makes a NULL.
+function ASN1_WriteNull(var AOut: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_WriteNull';
+
+// ==== INTEGER. Numbers are unsigned; those of any size are big-endian bytes.
+
+// Makes the content octets of a number, 1 to 5 of them, and their count in a cell of its own.
+function Asn1LowIntToChar(AValue: Cardinal; var AOutBytes: PByte;
+  var AOutLength: PCardinal): Integer; cdecl; external VelkordLibrary name 'Asn1LowIntToChar';
+
+// Makes the INTEGER of a number.
+function ASN1_WriteInteger(AValue: Cardinal; var AOut: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_WriteInteger';
+
+// Reads the low 32 bits of the number in an element of any type.
+function ASN1_ReadInteger(ASource: PAnybuf; var AValue: Cardinal): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_ReadInteger';
+
+// Makes an INTEGER over a content node of any type or over bytes: a zero octet goes in front of a
+// first byte of 0x80 or more; leading zeros stay.
+function ASN1_WriteIntegerArray(ASource: PAnybuf; var AOut: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_WriteIntegerArray';
+
+function ASN1_WriteIntegerArrayFromBytes(ABytes: PByte; ALength: Cardinal;
+  var AOut: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_WriteIntegerArrayFromBytes';
+
+// Another name of `ASN1_WriteExplicitFromDERData`.
+function ASN1_WriteIntegerArrayFromDERBytes(ABytes: PByte; ALength: Cardinal;
+  var AOut: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_WriteIntegerArrayFromDERBytes';
+
+// Another name of `ASN1_ReadBitString`.
+function ASN1_ReadIntegerArray(ASource: PAnybuf; var AOut: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_ReadIntegerArray';
+
+// Another name of `ASN1_ReadOctetStringToBytes`.
+function ASN1_ReadIntegerArrayToBytes(ASource: PAnybuf; AOut: PByte;
+  var AOutLength: Cardinal): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_ReadIntegerArrayToBytes';
+
+// ==== OBJECT IDENTIFIER
+
+// Turns dotted text of `textLength` characters into content octets; blanks may stand for points.
+function ASN1_OBJECT_a2d(AOut: PByte; var AOutLength: Cardinal; AText: PAnsiChar;
+  ATextLength: Integer): Integer; cdecl; external VelkordLibrary name 'ASN1_OBJECT_a2d';
+
+// Makes an OBJECT IDENTIFIER over content octets; `id` has no effect.
+function ASN1_WriteObjectId(ARecord: PObjectID; var AOut: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_WriteObjectId';
+
+function ASN1_WriteObjectIdFromData(AId: Integer; ABytes: PByte; ALength: Cardinal;
+  var AOut: PAnybuf): Integer; cdecl; external VelkordLibrary name 'ASN1_WriteObjectIdFromData';
+
+// Another name of `ASN1_WriteExplicitFromDERData`.
+function ASN1_WriteObjectIdFromDERBytes(ABytes: PByte; ALength: Cardinal;
+  var AOut: PAnybuf): Integer; cdecl; external VelkordLibrary name 'ASN1_WriteObjectIdFromDERBytes';
+
+// Reads the content of an element of any type into a new record.
+function ASN1_ReadObjectId(ASource: PAnybuf; var AOut: PObjectID): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_ReadObjectId';
+
+// Releases a record and its `data`; `next` is not followed.
+procedure ASN1_FreeObjectID(ARecord: PObjectID);
+  cdecl; external VelkordLibrary name 'ASN1_FreeObjectID';
+
+// Another name of `ASN1_ReadOctetStringToBytes`.
+function ASN1_ReadObjectIdToBytes(ASource: PAnybuf; AOut: PByte; var AOutLength: Cardinal): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_ReadObjectIdToBytes';
+
+// ==== SEQUENCE and SET. Chains are built, joined and split. The order of the elements stays as it
+// ==== is, in a SET too.
+
+// Makes a chain of one node, a copy of `element`; its `next` is not followed.
+function ASN1_CreateSequence(AElement: PAnybuf; var AOut: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_CreateSequence';
+
+function ASN1_CreateSet(AElement: PAnybuf; var AOut: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_CreateSet';
+
+// Appends a copy of `element` at the end of `chain`, to which it walks.
+procedure ASN1_AddSequence(AElement: PAnybuf; AChain: PAnybuf);
+  cdecl; external VelkordLibrary name 'ASN1_AddSequence';
+
+procedure ASN1_AddSet(AElement: PAnybuf; AChain: PAnybuf);
+  cdecl; external VelkordLibrary name 'ASN1_AddSet';
+
+// Other names of `ASN1_FreeAnybuf`.
+procedure ASN1_FreeSequence(AChain: PAnybuf);
+  cdecl; external VelkordLibrary name 'ASN1_FreeSequence';
+
+procedure ASN1_FreeSet(AChain: PAnybuf); cdecl; external VelkordLibrary name 'ASN1_FreeSet';
+
+// Makes one SEQUENCE or SET over the bytes of a chain; a null chain makes an empty element.
+function ASN1_WriteSequence(AChain: PAnybuf; var AOut: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_WriteSequence';
+
+function ASN1_WriteSet(AChain: PAnybuf; var AOut: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_WriteSet';
+
+// Opens a SEQUENCE or SET, in a node or in bytes: the chain of its children, null for none.
+function ASN1_ReadSequence(ASource: PAnybuf; var AOut: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_ReadSequence';
+
+function ASN1_ReadSet(ASource: PAnybuf; var AOut: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_ReadSet';
+
+function ASN1_WriteSequenceFromDERBytes(ABytes: PByte; ALength: Cardinal;
+  var AOut: PAnybuf): Integer; cdecl; external VelkordLibrary name 'ASN1_WriteSequenceFromDERBytes';
+
+function ASN1_WriteSetFromDERData(ABytes: PByte; ALength: Cardinal; var AOut: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_WriteSetFromDERData';
+
+// ==== EXPLICIT and IMPLICIT tags. Of a tag number the low byte counts.
+
+// Makes an element of tag octet `tagNumber | 0xA0` around a node of either form, or around bytes.
 function ASN1_WriteExplicit(ASource: PAnybuf; ATagNumber: Byte; var AOut: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_WriteExplicit';
 
 function ASN1_WriteExplicitFromData(ATagNumber: Cardinal; ABytes: PByte; ALength: Cardinal;
   var AOut: PAnybuf): Integer; cdecl; external VelkordLibrary name 'ASN1_WriteExplicitFromData';
 
-// Opens a TLV node of any type: its content as `ASN1_ReadBitString` gives it, and its reduced tag
-// (0xA3 for `[3]`).
+// Reads an element of any type: its content as `ASN1_ReadBitString` does, and its reduced tag, 0xA3
+// for `[3]`.
 function ASN1_ReadExplicit(ASource: PAnybuf; var AOut: PAnybuf; var AOutTag: Cardinal): Integer;
   cdecl; external VelkordLibrary name 'ASN1_ReadExplicit';
 
 function ASN1_ReadExplicitToBytes(ASource: PAnybuf; AOut: PByte; var AOutLength: Cardinal;
   var AOutTag: Cardinal): Integer; cdecl; external VelkordLibrary name 'ASN1_ReadExplicitToBytes';
 
-// Makes a TLV node with the source's content under another tag: `tagNumber | 0xA0` for a source of
-// `dataType` 16 or 17, `tagNumber | 0x80` otherwise; the low byte counts.
+// Reads an element and makes one of the same content under another tag: `tagNumber | 0xA0` for a
+// source of `dataType` 16 or 17, `tagNumber | 0x80` otherwise.
 function ASN1_WriteImplicit(ASource: PAnybuf; ATagNumber: Cardinal; var AOut: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_WriteImplicit';
 
-// Opens an element under an IMPLICIT tag.
+// Reads an element under an IMPLICIT tag.
 function ASN1_ReadImplicit(ASource: PAnybuf; var AOut: PAnybuf;
   var AOutTagNumber: Cardinal): Integer; cdecl; external VelkordLibrary name 'ASN1_ReadImplicit';
 
-// Stores DER bytes unchanged in a TLV node; only the tag is read.
-function ASN1_WriteExplicitFromDERData(ABytes: PByte; ALength: Cardinal;
-  var AOut: PAnybuf): Integer; cdecl; external VelkordLibrary name 'ASN1_WriteExplicitFromDERData';
+// ==== Time. A time is a number of seconds since 1 January 1970. The text of an element is the
+// ==== machine's local time followed by "Z", so it is UTC only where the local zone is UTC. The
+// ==== zone is that of the C library: the one that TZ names at the call, or without TZ the one that
+// ==== it has read; whoever changes that calls `tzset`, on Windows `_tzset`.
 
-function ASN1_WriteBmpStringFromDERBytes(ABytes: PByte; ALength: Cardinal;
-  var AOut: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_WriteBmpStringFromDERBytes';
-
-function ASN1_WriteCharStringFromDERBytes(ABytes: PByte; ALength: Cardinal;
-  var AOut: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_WriteCharStringFromDERBytes';
-
-function ASN1_WriteIa5StringFromDERBytes(ABytes: PByte; ALength: Cardinal;
-  var AOut: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_WriteIa5StringFromDERBytes';
-
-function ASN1_WriteIntegerArrayFromDERBytes(ABytes: PByte; ALength: Cardinal;
-  var AOut: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_WriteIntegerArrayFromDERBytes';
-
-function ASN1_WriteObjectIdFromDERBytes(ABytes: PByte; ALength: Cardinal;
-  var AOut: PAnybuf): Integer; cdecl; external VelkordLibrary name 'ASN1_WriteObjectIdFromDERBytes';
-
-function ASN1_WriteOctetStringFromDERBytes(ABytes: PByte; ALength: Cardinal;
-  var AOut: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_WriteOctetStringFromDERBytes';
-
-function ASN1_WritePrintableStringFromDERBytes(ABytes: PByte; ALength: Cardinal;
-  var AOut: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_WritePrintableStringFromDERBytes';
-
-function ASN1_WriteUTF8StringFromDERBytes(ABytes: PByte; ALength: Cardinal;
-  var AOut: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_WriteUTF8StringFromDERBytes';
-
-// ==== Time. Seconds since 1 January 1970 against local time text.
-
-// Makes the TLV node of a time.
+// Makes the element of a time.
 function ASN1_WriteGeneralizedTime(ATime: PInteger; var AOut: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_WriteGeneralizedTime';
 
 function ASN1_WriteUtcTime(ATime: PInteger; var AOut: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_WriteUtcTime';
 
-// Reads the time of a TLV node as local time.
+// Reads the time of an element of that form.
 function ASN1_ReadGeneralizedTime(ASource: PAnybuf; var ATime: Integer): Integer;
   cdecl; external VelkordLibrary name 'ASN1_ReadGeneralizedTime';
 
 function ASN1_ReadUtcTime(ASource: PAnybuf; var ATime: Integer): Integer;
   cdecl; external VelkordLibrary name 'ASN1_ReadUtcTime';
 
-// ==== Names. Attributes, relative names and names.
+// ==== Names. A name is a SEQUENCE of relative names, and a relative name a SET of attributes. The
+// ==== value of an attribute is a UTF8String, PrintableString or IA5String; for another type a
+// ==== function that looks at it returns `VELKORD_WRONG_TAG`.
 
-// Makes a record with copies of two TLV nodes.
+// Creates a record with copies of two nodes.
 function ASN1_SetAttributeTypeAndValue(AType: PAnybuf; AValue: PAnybuf;
   var AOut: PAttributeTypeAndValue): Integer;
   cdecl; external VelkordLibrary name 'ASN1_SetAttributeTypeAndValue';
 
-// Makes the SEQUENCE TLV node of an attribute.
+// Releases a record.
+procedure ASN1_FreeAttributeTypeAndValue(ARecord: PAttributeTypeAndValue);
+  cdecl; external VelkordLibrary name 'ASN1_FreeAttributeTypeAndValue';
+
+// Makes the SEQUENCE of an attribute.
 function ASN1_GetDerAttributeTypeAndValue(ARecord: PAttributeTypeAndValue;
   var AOut: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_GetDerAttributeTypeAndValue';
 
-// Opens the SEQUENCE TLV node of an attribute: its OBJECT IDENTIFIER and its UTF8String,
-// PrintableString or IA5String as new TLV nodes.
+// Opens the SEQUENCE of an attribute: its OBJECT IDENTIFIER and its value as new nodes.
 function ASN1_DecodeDerAttributeTypeAndValue(ASource: PAnybuf; var AOutType: PAnybuf;
   var AOutValue: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_DecodeDerAttributeTypeAndValue';
 
-// Releases a record and its nodes.
-procedure ASN1_FreeAttributeTypeAndValue(ARecord: PAttributeTypeAndValue);
-  cdecl; external VelkordLibrary name 'ASN1_FreeAttributeTypeAndValue';
-
-// The SET of a relative name: written as `ASN1_WriteSet` does, split as `ASN1_ReadSet` and
-// `ASN1_WriteSetFromDERData` do.
-function ASN1_GetDerRelativeDistinguishedName(AChain: PAnybuf; var AOut: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_GetDerRelativeDistinguishedName';
-
-function ASN1_ReadRelativeDistinguishedName(ASource: PAnybuf; var AOut: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_ReadRelativeDistinguishedName';
-
-function ASN1_ReadRelativeDistinguishedNameFromByte(ABytes: PByte; ALength: Cardinal;
-  var AOut: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_ReadRelativeDistinguishedNameFromByte';
-
-// Makes the SET TLV node of a relative name with one attribute, from a string TLV node of
-// `dataType` 12, 19 or 22 and the attribute's OID as dotted text; `id` has no effect.
+// Makes the SET of a relative name with one attribute, from its value and its OID as dotted text;
+// `id` has no effect.
 function ASN1_GetDerRelativeDistinguishedNameOne(AValue: PAnybuf; AId: Integer; AOidText: PAnsiChar;
   AOidTextLength: Integer; var AOut: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_GetDerRelativeDistinguishedNameOne';
 
-// Opens the SET TLV node of a relative name and gives its first attribute: the value's bytes, a
-// UTF8String turned into GB2312 by `utf8sToZhs`, and the OID's content octets.
+// Opens the SET of a relative name and copies the value and the OID's octets of its first
+// attribute, a UTF8String turned into GB2312 by `utf8sToZhs`.
 function ASN1_DecodeDerRelativeDistinguishedNameOne(ASource: PAnybuf; AValue: PByte;
   var AValueLength: Cardinal; AOid: PByte; var AOidLength: Cardinal): Integer;
   cdecl; external VelkordLibrary name 'ASN1_DecodeDerRelativeDistinguishedNameOne';
 
-// `ASN1_CreateSet` under the names of what is listed.
+// Other names of `ASN1_CreateSet`: start a chain of relative names or of attributes.
 function ASN1_CreateName(AElement: PAnybuf; var AOut: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_CreateName';
 
 function ASN1_CreateRelativeDistinguishedName(AElement: PAnybuf; var AOut: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_CreateRelativeDistinguishedName';
 
-function ASN1_CreateExtensions(AElement: PAnybuf; var AOut: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_CreateExtensions';
-
-// `ASN1_AddSet` under the names of what is listed: the element first, the chain second.
+// Other names of `ASN1_AddSet`: the element first, the chain second.
 procedure ASN1_AddName(AElement: PAnybuf; AChain: PAnybuf);
   cdecl; external VelkordLibrary name 'ASN1_AddName';
 
 procedure ASN1_AddRelativeDistinguishedName(AElement: PAnybuf; AChain: PAnybuf);
   cdecl; external VelkordLibrary name 'ASN1_AddRelativeDistinguishedName';
 
-procedure ASN1_AddExtensions(AElement: PAnybuf; AChain: PAnybuf);
-  cdecl; external VelkordLibrary name 'ASN1_AddExtensions';
-
-// `ASN1_WriteSequence` under the names of what is listed.
-function ASN1_GetDerName(AChain: PAnybuf; var AOut: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_GetDerName';
-
-function ASN1_WriteExtensions(AChain: PAnybuf; var AOut: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_WriteExtensions';
-
-// `ASN1_ReadSequence` under the names of what is listed.
-function ASN1_ReadDerName(ASource: PAnybuf; var AOut: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_ReadDerName';
-
-function ASN1_ReadExtensions(ASource: PAnybuf; var AOut: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_ReadExtensions';
-
-// `ASN1_FreeAnybuf` under the names of what is released.
+// Other names of `ASN1_FreeAnybuf`.
 procedure ASN1_FreeNames(AChain: PAnybuf); cdecl; external VelkordLibrary name 'ASN1_FreeNames';
 
 procedure ASN1_FreeRelativeDistinguishedName(AChain: PAnybuf);
   cdecl; external VelkordLibrary name 'ASN1_FreeRelativeDistinguishedName';
 
-procedure ASN1_FreeExtension(AChain: PAnybuf);
-  cdecl; external VelkordLibrary name 'ASN1_FreeExtension';
+// Another name of `ASN1_WriteSequence`.
+function ASN1_GetDerName(AChain: PAnybuf; var AOut: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_GetDerName';
 
-procedure ASN1_FreeExtensions(AChain: PAnybuf);
-  cdecl; external VelkordLibrary name 'ASN1_FreeExtensions';
+// Another name of `ASN1_ReadSequence`.
+function ASN1_ReadDerName(ASource: PAnybuf; var AOut: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_ReadDerName';
 
-procedure ASN1_FreeAlgorithmIdentifier(AChain: PAnybuf);
-  cdecl; external VelkordLibrary name 'ASN1_FreeAlgorithmIdentifier';
+// Another name of `ASN1_WriteSet`.
+function ASN1_GetDerRelativeDistinguishedName(AChain: PAnybuf; var AOut: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_GetDerRelativeDistinguishedName';
 
-procedure ASN1_FreeSubjectPublicKeyInfo(AChain: PAnybuf);
-  cdecl; external VelkordLibrary name 'ASN1_FreeSubjectPublicKeyInfo';
+// Another name of `ASN1_ReadSet`.
+function ASN1_ReadRelativeDistinguishedName(ASource: PAnybuf; var AOut: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_ReadRelativeDistinguishedName';
 
-procedure ASN1_FreeRSAPublicKey(AChain: PAnybuf);
-  cdecl; external VelkordLibrary name 'ASN1_FreeRSAPublicKey';
+// Another name of `ASN1_WriteSetFromDERData`.
+function ASN1_ReadRelativeDistinguishedNameFromByte(ABytes: PByte; ALength: Cardinal;
+  var AOut: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_ReadRelativeDistinguishedNameFromByte';
 
-procedure ASN1_FreeValidity(AChain: PAnybuf);
-  cdecl; external VelkordLibrary name 'ASN1_FreeValidity';
+// ==== Validity, algorithms and public keys
 
-// ==== Validity, algorithm and key info. Parts that certificates and requests share.
-
-// Makes the SEQUENCE TLV node of two TLV nodes: notBefore and notAfter, or modulus and exponent.
+// Makes the SEQUENCE of two times, which are not tested.
 function ASN1_SetValidity(ANotBefore: PAnybuf; ANotAfter: PAnybuf; var AOut: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_SetValidity';
 
-function ASN1_SetRSAPublicKey(AModulus: PAnybuf; AExponent: PAnybuf; var AOut: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_SetRSAPublicKey';
-
-// Reads both times of a Validity TLV node, in either form; of more than two the last is notAfter.
+// Opens a Validity and reads both times, in either form; of more than two the last is notAfter.
 function ASN1_GetValidity(ASource: PAnybuf; var ANotBefore: Integer;
   var ANotAfter: Integer): Integer; cdecl; external VelkordLibrary name 'ASN1_GetValidity';
 
-// Opens the SEQUENCE TLV node of an RSA public key: both numbers as new INTEGER TLV nodes,
-// positive; of more than two elements the last is the exponent.
-function ASN1_GetRSAPublicKey(ASource: PAnybuf; var AOutModulus: PAnybuf;
-  var AOutExponent: PAnybuf): Integer; cdecl; external VelkordLibrary name 'ASN1_GetRSAPublicKey';
+// Another name of `ASN1_FreeAnybuf`.
+procedure ASN1_FreeValidity(AChain: PAnybuf);
+  cdecl; external VelkordLibrary name 'ASN1_FreeValidity';
 
-// Makes an AlgorithmIdentifier TLV node of `oid` and one more element: `parameter` when it is not
-// null, else NULL when `mode` is 1, else `alternative`, which must then be there.
+// Makes an AlgorithmIdentifier of `oid` and one more element: `parameter` when it is not null, else
+// NULL when `mode` is 1, else `alternative`, which must then be there.
 function ASN1_SetAlgorithmIdentifier(AMode: Cardinal; AOid: PAnybuf; AAlternative: PAnybuf;
   AParameter: PAnybuf; var AOut: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_SetAlgorithmIdentifier';
 
-// Opens an AlgorithmIdentifier TLV node.
+// Opens an AlgorithmIdentifier.
 function ASN1_GetAlgorithmIdentifier(ASource: PAnybuf; var AOutOid: PAnybuf;
   var AOutSequence: PAnybuf; var AOutParameterOid: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_GetAlgorithmIdentifier';
 
-// Makes a SubjectPublicKeyInfo TLV node: a copy of `algorithm`, then a BIT STRING over the bytes of
-// `key`, written as `ASN1_WriteBitStringFromBytes` does.
+// Another name of `ASN1_FreeAnybuf`.
+procedure ASN1_FreeAlgorithmIdentifier(AChain: PAnybuf);
+  cdecl; external VelkordLibrary name 'ASN1_FreeAlgorithmIdentifier';
+
+// Makes a SubjectPublicKeyInfo: a copy of `algorithm`, then a BIT STRING over the bytes of `key`, a
+// node of either form, as `ASN1_WriteBitStringFromBytes` writes it.
 function ASN1_SetSubjectPublicKeyInfo(AAlgorithm: PAnybuf; AKey: PAnybuf;
   var AOut: PAnybuf): Integer; cdecl; external VelkordLibrary name 'ASN1_SetSubjectPublicKeyInfo';
 
-// Opens a SubjectPublicKeyInfo TLV node: AlgorithmIdentifier and BIT STRING as new TLV nodes, the
-// unused-bits octet always 0.
+// Opens a SubjectPublicKeyInfo: both parts as new nodes, the unused-bits octet always 0.
 function ASN1_GetSubjectPublicKeyInfo(ASource: PAnybuf; var AOutAlgorithm: PAnybuf;
   var AOutKey: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_GetSubjectPublicKeyInfo';
 
-// ==== Extensions. Single, and as a list.
+// Another name of `ASN1_FreeAnybuf`.
+procedure ASN1_FreeSubjectPublicKeyInfo(AChain: PAnybuf);
+  cdecl; external VelkordLibrary name 'ASN1_FreeSubjectPublicKeyInfo';
 
-// Makes an Extension TLV node of an OID, a BOOLEAN, which may be null, and an OCTET STRING, all TLV
-// nodes; none is tested.
+// Another name of `ASN1_SetValidity`: makes the SEQUENCE of two INTEGERs.
+function ASN1_SetRSAPublicKey(AModulus: PAnybuf; AExponent: PAnybuf; var AOut: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_SetRSAPublicKey';
+
+// Opens the SEQUENCE of an RSA public key: both numbers as new INTEGERs, positive; of more than two
+// elements the last is the exponent.
+function ASN1_GetRSAPublicKey(ASource: PAnybuf; var AOutModulus: PAnybuf;
+  var AOutExponent: PAnybuf): Integer; cdecl; external VelkordLibrary name 'ASN1_GetRSAPublicKey';
+
+// Another name of `ASN1_FreeAnybuf`.
+procedure ASN1_FreeRSAPublicKey(AChain: PAnybuf);
+  cdecl; external VelkordLibrary name 'ASN1_FreeRSAPublicKey';
+
+// ==== Extensions
+
+// Makes an Extension of an OID, a BOOLEAN, which may be null, and an OCTET STRING; none is tested.
 function ASN1_SetExtension(AOid: PAnybuf; ACritical: PAnybuf; AValue: PAnybuf;
   var AOut: PAnybuf): Integer; cdecl; external VelkordLibrary name 'ASN1_SetExtension';
 
-// Makes an Extension TLV node from the OID's content octets and the value's bytes.
+// Makes an Extension from the OID's content octets and the value's bytes.
 function ASN1_GetExtensionOne(AId: Integer; AOid: PByte; AOidLength: Cardinal; ACritical: Cardinal;
   AValue: PByte; AValueLength: Cardinal; var AOut: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_GetExtensionOne';
 
-// Opens an Extension TLV node: OBJECT IDENTIFIER, BOOLEAN and OCTET STRING as new TLV nodes.
+// Opens an Extension: OBJECT IDENTIFIER, BOOLEAN and OCTET STRING as new nodes.
 function ASN1_GetExtension(ASource: PAnybuf; var AOutOid: PAnybuf; var AOutCritical: PAnybuf;
   var AOutValue: PAnybuf): Integer; cdecl; external VelkordLibrary name 'ASN1_GetExtension';
 
-// ==== Certificates: the signed part. What is signed of a certificate.
+// Another name of `ASN1_FreeAnybuf`.
+procedure ASN1_FreeExtension(AChain: PAnybuf);
+  cdecl; external VelkordLibrary name 'ASN1_FreeExtension';
 
-// Makes an empty record.
+// Another name of `ASN1_CreateSet`: starts a list.
+function ASN1_CreateExtensions(AElement: PAnybuf; var AOut: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_CreateExtensions';
+
+// Another name of `ASN1_AddSet`: the element first, the chain second.
+procedure ASN1_AddExtensions(AElement: PAnybuf; AChain: PAnybuf);
+  cdecl; external VelkordLibrary name 'ASN1_AddExtensions';
+
+// Another name of `ASN1_WriteSequence`.
+function ASN1_WriteExtensions(AChain: PAnybuf; var AOut: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_WriteExtensions';
+
+// Another name of `ASN1_ReadSequence`.
+function ASN1_ReadExtensions(ASource: PAnybuf; var AOut: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_ReadExtensions';
+
+// Another name of `ASN1_FreeAnybuf`.
+procedure ASN1_FreeExtensions(AChain: PAnybuf);
+  cdecl; external VelkordLibrary name 'ASN1_FreeExtensions';
+
+// ==== Certificates
+
+// Creates an empty record.
 function ASN1_CreateTBSCertificate(var AOut: PTBSCertificate): Integer;
   cdecl; external VelkordLibrary name 'ASN1_CreateTBSCertificate';
 
-// Releases a record and its nodes.
+function ASN1_CreateCertificate(var AOut: PCertificate): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_CreateCertificate';
+
+// Releases a record.
 procedure ASN1_FreeTBSCertificate(ARecord: PTBSCertificate);
   cdecl; external VelkordLibrary name 'ASN1_FreeTBSCertificate';
+
+procedure ASN1_FreeCertificate(ARecord: PCertificate);
+  cdecl; external VelkordLibrary name 'ASN1_FreeCertificate';
 
 // Sets the version number, 2 for a version 3 certificate.
 function ASN1_TBSCertificateSetVersion(ARecord: PTBSCertificate; AVersion: Cardinal): Integer;
@@ -739,7 +758,7 @@ function ASN1_TBSCertificateSetSerialNumber(ARecord: PTBSCertificate; ABytes: PB
   ALength: Cardinal): Integer;
   cdecl; external VelkordLibrary name 'ASN1_TBSCertificateSetSerialNumber';
 
-// Sets a field to a copy of a SEQUENCE TLV node, its own length rewritten in shortest form.
+// Sets a field from a SEQUENCE.
 function ASN1_TBSCertificateSetSignatureAlg(ARecord: PTBSCertificate; AValue: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_TBSCertificateSetSignatureAlg';
 
@@ -756,135 +775,47 @@ function ASN1_TBSCertificateSetSubjectPublicKeyInfo(ARecord: PTBSCertificate;
   AValue: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_TBSCertificateSetSubjectPublicKeyInfo';
 
-// Sets an optional identifier from a BIT STRING TLV node, under `[1]` or `[2]` IMPLICIT, as
-// `ASN1_WriteImplicit` does.
+// Sets an optional identifier, a BIT STRING, under `[1]` or `[2]` as `ASN1_WriteImplicit` does.
 function ASN1_TBSCertificateSetIssuerUniqueID(ARecord: PTBSCertificate; AValue: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_TBSCertificateSetIssuerUniqueID';
 
 function ASN1_TBSCertificateSetSubjectUniqueID(ARecord: PTBSCertificate; AValue: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_TBSCertificateSetSubjectUniqueID';
 
-// Sets the extensions from the TLV node of their list, under `[3]` EXPLICIT.
+// Sets the extensions under `[3]` EXPLICIT: the bytes of their list, which are not tested.
 function ASN1_TBSCertificateSetExtensions(ARecord: PTBSCertificate; AValue: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_TBSCertificateSetExtensions';
 
-// Makes the SEQUENCE TLV node of the record: seven required fields, then each optional one whose
-// flag is 1.
+// Makes the SEQUENCE of a record: seven required fields, then the optional ones.
 function ASN1_TBSCertificateWriteData(ARecord: PTBSCertificate; var AOut: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_TBSCertificateWriteData';
 
-// Decodes a TBSCertificate TLV node into a new record.
+// Decodes a TBSCertificate of seven elements or more.
 function ASN1_TBSCertificateDecode(ASource: PAnybuf; var AOut: PTBSCertificate): Integer;
   cdecl; external VelkordLibrary name 'ASN1_TBSCertificateDecode';
 
-// ==== Signed wholes. Certificates, revocation lists, PKCS#10 certification requests and PKCS#6
-// ==== extended certificates have one shape: what is signed, the algorithm and the signature.
-
-// Makes an empty record.
-function ASN1_CreateCertificate(var AOut: PCertificate): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_CreateCertificate';
-
-function ASN1_CRL_CreateCertificateList(var AOut: PCertificateList): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_CRL_CreateCertificateList';
-
-function ASN1_CreatePKCS10Request(var AOut: PPKCS10Request): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_CreatePKCS10Request';
-
-function ASN1_PKCS6_CreateExtendedCertificate(var AOut: PExtendedCertificate): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_PKCS6_CreateExtendedCertificate';
-
-// Releases a record and its nodes.
-procedure ASN1_FreeCertificate(ARecord: PCertificate);
-  cdecl; external VelkordLibrary name 'ASN1_FreeCertificate';
-
-procedure ASN1_CRL_FreeCertificateList(ARecord: PCertificateList);
-  cdecl; external VelkordLibrary name 'ASN1_CRL_FreeCertificateList';
-
-procedure ASN1_FreePKCS10Request(ARecord: PPKCS10Request);
-  cdecl; external VelkordLibrary name 'ASN1_FreePKCS10Request';
-
-procedure ASN1_PKCS6_FreeExtendedCertificate(ARecord: PExtendedCertificate);
-  cdecl; external VelkordLibrary name 'ASN1_PKCS6_FreeExtendedCertificate';
-
-// Sets the first or the second field to a copy of a SEQUENCE TLV node, its own length rewritten in
-// shortest form.
+// Sets the signed part or the algorithm from a SEQUENCE.
 function ASN1_CertificateSetTbsCertificate(ARecord: PCertificate; AValue: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_CertificateSetTbsCertificate';
 
 function ASN1_CertificateSetSignatureAlgorithm(ARecord: PCertificate; AValue: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_CertificateSetSignatureAlgorithm';
 
-function ASN1_CRL_SetCertificateListTBSCertList(ARecord: PCertificateList;
-  AValue: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_CRL_SetCertificateListTBSCertList';
-
-function ASN1_CRL_SetCertificateListAlgorithmIdentifier(ARecord: PCertificateList;
-  AValue: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_CRL_SetCertificateListAlgorithmIdentifier';
-
-function ASN1_PKCS10RequestSetCertificationRequestInfo(ARecord: PPKCS10Request;
-  AValue: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_PKCS10RequestSetCertificationRequestInfo';
-
-function ASN1_PKCS10RequestSetAlgorithmIdentifier(ARecord: PPKCS10Request;
-  AValue: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_PKCS10RequestSetAlgorithmIdentifier';
-
-function ASN1_PKCS6_SetCertificateCertificateInfo(ARecord: PExtendedCertificate;
-  AValue: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_PKCS6_SetCertificateCertificateInfo';
-
-function ASN1_PKCS6_SetCertificateSignatureAlgorithmIdentifier(ARecord: PExtendedCertificate;
-  AValue: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_PKCS6_SetCertificateSignatureAlgorithmIdentifier';
-
-// Sets the signature to a copy of a BIT STRING TLV node, as `ASN1_WriteBitStringFromDERBytes` does.
+// Sets the signature from a BIT STRING, as `ASN1_WriteBitStringFromDERBytes` does.
 function ASN1_CertificateSetSignatureValue(ARecord: PCertificate; AValue: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_CertificateSetSignatureValue';
 
-function ASN1_CRL_SetCertificateListSignatureValue(ARecord: PCertificateList;
-  AValue: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_CRL_SetCertificateListSignatureValue';
-
-function ASN1_PKCS10RequestSetSignature(ARecord: PPKCS10Request; AValue: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_PKCS10RequestSetSignature';
-
-function ASN1_PKCS6_SetCertificateSignature(ARecord: PExtendedCertificate;
-  AValue: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_PKCS6_SetCertificateSignature';
-
-// Makes the SEQUENCE TLV node of the three fields.
+// Makes the SEQUENCE of a record, all three fields.
 function ASN1_CertificateWriteData(ARecord: PCertificate; var AOut: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_CertificateWriteData';
 
-function ASN1_CRL_CertificateListWriteData(ARecord: PCertificateList; var AOut: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_CRL_CertificateListWriteData';
-
-function ASN1_PKCS10RequestWriteData(ARecord: PPKCS10Request; var AOut: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_PKCS10RequestWriteData';
-
-function ASN1_PKCS6_CertificateWriteData(ARecord: PExtendedCertificate; var AOut: PAnybuf): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_PKCS6_CertificateWriteData';
-
-// Decodes DER of exactly `length` bytes into a new record.
+// Decodes a certificate.
 function ASN1_CertificateDecode(ABytes: PByte; ALength: Cardinal; var AOut: PCertificate): Integer;
   cdecl; external VelkordLibrary name 'ASN1_CertificateDecode';
 
-function ASN1_CRL_CertificateListDecode(ABytes: PByte; ALength: Cardinal;
-  var AOut: PCertificateList): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_CRL_CertificateListDecode';
+// ==== Certificate inspection. Of the DER that is looked into, malformed parts are skipped.
 
-function ASN1_PKCS10RequestDecode(ABytes: PByte; ALength: Cardinal;
-  var AOut: PPKCS10Request): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_PKCS10RequestDecode';
-
-function ASN1_PKCS6_CertificateDecode(ABytes: PByte; ALength: Cardinal;
-  var AOut: PExtendedCertificate): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_PKCS6_CertificateDecode';
-
-// ==== Certificate inspection. The subject of a decoded certificate, and a value in its extensions.
-
-// Makes an empty record and also stores it in `out`, which may be null.
+// Makes an empty record, and stores it in `out` too unless that is null.
 function X509CertCreate(var AOut: PX509Cert): PX509Cert;
   cdecl; external VelkordLibrary name 'X509CertCreate';
 
@@ -902,57 +833,58 @@ function X509CertGetOIDValue(ARecord: PX509Cert; AOidText: PAnsiChar; ATextLengt
   AValue: PByte; var AValueLength: Cardinal): Integer;
   cdecl; external VelkordLibrary name 'X509CertGetOIDValue';
 
-// ==== Revocation lists: an entry. One revoked certificate.
+// ==== Revocation lists
 
-// Makes an empty record.
+// Creates an empty record.
 function ASN1_CRL_CreateRevokedCertificate(var AOut: PRevokedCertificate): Integer;
   cdecl; external VelkordLibrary name 'ASN1_CRL_CreateRevokedCertificate';
 
-// Releases a record and its nodes.
+function ASN1_CRL_CreateTbsCertList(var AOut: PTbsCertList): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_CRL_CreateTbsCertList';
+
+function ASN1_CRL_CreateCertificateList(var AOut: PCertificateList): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_CRL_CreateCertificateList';
+
+// Releases a record.
 procedure ASN1_CRL_FreeRevokedCertificate(ARecord: PRevokedCertificate);
   cdecl; external VelkordLibrary name 'ASN1_CRL_FreeRevokedCertificate';
 
-// Sets the serial number to a copy of a TLV node of any type.
+procedure ASN1_CRL_FreeTbsCertList(ARecord: PTbsCertList);
+  cdecl; external VelkordLibrary name 'ASN1_CRL_FreeTbsCertList';
+
+procedure ASN1_CRL_FreeCertificateList(ARecord: PCertificateList);
+  cdecl; external VelkordLibrary name 'ASN1_CRL_FreeCertificateList';
+
+// Sets the serial number, of any type, as `ASN1_WriteExplicitFromDERData` does.
 function ASN1_CRL_SetRevokedCertificateCertificateSerialNumber(ARecord: PRevokedCertificate;
   AValue: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_CRL_SetRevokedCertificateCertificateSerialNumber';
 
-// Sets the date from a time TLV node, read and written again in the form that it has.
+// Sets the date from a time, read and written again in the form that it has.
 function ASN1_CRL_SetRevokedCertificateRevocationDate(ARecord: PRevokedCertificate;
   AValue: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_CRL_SetRevokedCertificateRevocationDate';
 
-// Sets the extensions to a copy of a SEQUENCE TLV node, its own length rewritten in shortest form.
+// Sets the extensions from a SEQUENCE.
 function ASN1_CRL_SetRevokedCertificateCrlEntryExtensions(ARecord: PRevokedCertificate;
   AValue: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_CRL_SetRevokedCertificateCrlEntryExtensions';
 
-// Makes the SEQUENCE TLV node of the entry, with extensions when their flag is 1.
+// Makes the SEQUENCE of a record, the extensions being optional.
 function ASN1_CRL_RevokedCertificateWriteData(ARecord: PRevokedCertificate;
   var AOut: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_CRL_RevokedCertificateWriteData';
 
-// Decodes the DER of one entry of exactly `length` bytes into a new record.
+// Decodes an entry.
 function ASN1_CRL_RevokedCertificateDecode(ABytes: PByte; ALength: Cardinal;
   var AOut: PRevokedCertificate): Integer;
   cdecl; external VelkordLibrary name 'ASN1_CRL_RevokedCertificateDecode';
 
-// ==== Revocation lists: the signed part. What is signed of a list.
-
-// Makes an empty record.
-function ASN1_CRL_CreateTbsCertList(var AOut: PTbsCertList): Integer;
-  cdecl; external VelkordLibrary name 'ASN1_CRL_CreateTbsCertList';
-
-// Releases a record and its nodes.
-procedure ASN1_CRL_FreeTbsCertList(ARecord: PTbsCertList);
-  cdecl; external VelkordLibrary name 'ASN1_CRL_FreeTbsCertList';
-
-// Sets the version number.
+// Stores the version number.
 function ASN1_CRL_TbsCertListSetVersion(ARecord: PTbsCertList; AVersion: Cardinal): Integer;
   cdecl; external VelkordLibrary name 'ASN1_CRL_TbsCertListSetVersion';
 
-// Sets a field to a copy of a SEQUENCE TLV node, its own length rewritten in shortest form, and the
-// flag of an optional one to 1.
+// Sets a field from a SEQUENCE.
 function ASN1_CRL_TbsCertListSetSignatureAlgorithmIdentifier(ARecord: PTbsCertList;
   AValue: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_CRL_TbsCertListSetSignatureAlgorithmIdentifier';
@@ -967,75 +899,130 @@ function ASN1_CRL_TbsCertListSetRevokedCertificates(ARecord: PTbsCertList;
 function ASN1_CRL_TbsCertListSetCrlExtensions(ARecord: PTbsCertList; AValue: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_CRL_TbsCertListSetCrlExtensions';
 
-// Sets the time of this list, in seconds, and the form of both times: 1 for UTCTime, any other
+// Stores the time of this list, in seconds, and the form of both times: 1 for UTCTime, any other
 // number for GeneralizedTime.
 function ASN1_CRL_TbsCertListSetThisUpdate(ARecord: PTbsCertList; ATime: Integer;
   AForm: Cardinal): Integer;
   cdecl; external VelkordLibrary name 'ASN1_CRL_TbsCertListSetThisUpdate';
 
-// Sets the time of the next list, in seconds, and its flag.
+// Stores the time of the next list, in seconds, and sets its flag.
 function ASN1_CRL_TbsCertListSetNextUpdate(ARecord: PTbsCertList; ATime: Integer): Integer;
   cdecl; external VelkordLibrary name 'ASN1_CRL_TbsCertListSetNextUpdate';
 
-// Makes the SEQUENCE TLV node of the record: each optional field when its flag is 1, the extensions
-// under `[0]` EXPLICIT.
+// Makes the SEQUENCE of a record, the extensions under `[0]` EXPLICIT.
 function ASN1_CRL_TbsCertListWriteData(ARecord: PTbsCertList; var AOut: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_CRL_TbsCertListWriteData';
 
-// Decodes the DER of one signed part of exactly `length` bytes into a new record.
+// Decodes a TbsCertList.
 function ASN1_CRL_TbsCertListDecode(ABytes: PByte; ALength: Cardinal;
   var AOut: PTbsCertList): Integer;
   cdecl; external VelkordLibrary name 'ASN1_CRL_TbsCertListDecode';
 
-// ==== PKCS#10: the signed part. What is signed of a request.
+// Sets the signed part or the algorithm from a SEQUENCE.
+function ASN1_CRL_SetCertificateListTBSCertList(ARecord: PCertificateList;
+  AValue: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_CRL_SetCertificateListTBSCertList';
 
-// Makes an empty record.
+function ASN1_CRL_SetCertificateListAlgorithmIdentifier(ARecord: PCertificateList;
+  AValue: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_CRL_SetCertificateListAlgorithmIdentifier';
+
+// Sets the signature as `ASN1_CertificateSetSignatureValue` does.
+function ASN1_CRL_SetCertificateListSignatureValue(ARecord: PCertificateList;
+  AValue: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_CRL_SetCertificateListSignatureValue';
+
+// Makes the SEQUENCE of a record, all three fields.
+function ASN1_CRL_CertificateListWriteData(ARecord: PCertificateList; var AOut: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_CRL_CertificateListWriteData';
+
+// Decodes a revocation list.
+function ASN1_CRL_CertificateListDecode(ABytes: PByte; ALength: Cardinal;
+  var AOut: PCertificateList): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_CRL_CertificateListDecode';
+
+// ==== PKCS#10: certification requests
+
+// Creates an empty record.
 function ASN1_CreatePKCS10(var AOut: PPKCS10): Integer;
   cdecl; external VelkordLibrary name 'ASN1_CreatePKCS10';
 
-// Releases a record and its nodes.
+function ASN1_CreatePKCS10Request(var AOut: PPKCS10Request): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_CreatePKCS10Request';
+
+// Releases a record.
 procedure ASN1_FreePKCS10(ARecord: PPKCS10); cdecl; external VelkordLibrary name 'ASN1_FreePKCS10';
 
-// Sets the version, 0 for version 1.
+procedure ASN1_FreePKCS10Request(ARecord: PPKCS10Request);
+  cdecl; external VelkordLibrary name 'ASN1_FreePKCS10Request';
+
+// Sets the version number, 0 for version 1.
 function ASN1_PKCS10SetVersion(ARecord: PPKCS10; AVersion: Cardinal): Integer;
   cdecl; external VelkordLibrary name 'ASN1_PKCS10SetVersion';
 
-// Sets a field to a copy of a SEQUENCE TLV node, its own length rewritten in shortest form.
+// Sets a field from a SEQUENCE.
 function ASN1_PKCS10SetSubject(ARecord: PPKCS10; AValue: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_PKCS10SetSubject';
 
 function ASN1_PKCS10SetSubjectPublicKeyInfo(ARecord: PPKCS10; AValue: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_PKCS10SetSubjectPublicKeyInfo';
 
-// Sets the attributes from a SET TLV node, under `[0]` IMPLICIT, as `ASN1_WriteImplicit` does.
+// Sets the attributes, a SET, under `[0]` as `ASN1_WriteImplicit` does.
 function ASN1_PKCS10SetAttributes(ARecord: PPKCS10; AValue: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_PKCS10SetAttributes';
 
-// Makes the SEQUENCE TLV node of the four fields, all of them required.
+// Makes the SEQUENCE of a record, all four fields.
 function ASN1_PKCS10WriteData(ARecord: PPKCS10; var AOut: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_PKCS10WriteData';
 
-// Decodes the DER of one signed part of exactly `length` bytes into a new record.
+// Decodes the signed part of a request.
 function ASN1_PKCS10Decode(ABytes: PByte; ALength: Cardinal; var AOut: PPKCS10): Integer;
   cdecl; external VelkordLibrary name 'ASN1_PKCS10Decode';
 
-// ==== PKCS#6: the signed part. What is signed of an extended certificate.
+// Sets the signed part or the algorithm from a SEQUENCE.
+function ASN1_PKCS10RequestSetCertificationRequestInfo(ARecord: PPKCS10Request;
+  AValue: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_PKCS10RequestSetCertificationRequestInfo';
 
-// Makes an empty record.
+function ASN1_PKCS10RequestSetAlgorithmIdentifier(ARecord: PPKCS10Request;
+  AValue: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_PKCS10RequestSetAlgorithmIdentifier';
+
+// Sets the signature as `ASN1_CertificateSetSignatureValue` does.
+function ASN1_PKCS10RequestSetSignature(ARecord: PPKCS10Request; AValue: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_PKCS10RequestSetSignature';
+
+// Makes the SEQUENCE of a record, all three fields.
+function ASN1_PKCS10RequestWriteData(ARecord: PPKCS10Request; var AOut: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_PKCS10RequestWriteData';
+
+// Decodes a request as `ASN1_CRL_CertificateListDecode` does a list.
+function ASN1_PKCS10RequestDecode(ABytes: PByte; ALength: Cardinal;
+  var AOut: PPKCS10Request): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_PKCS10RequestDecode';
+
+// ==== PKCS#6: extended certificates
+
+// Creates an empty record.
 function ASN1_PKCS6_CreateExtendedCertificateInfo(var AOut: PExtendedCertificateInfo): Integer;
   cdecl; external VelkordLibrary name 'ASN1_PKCS6_CreateExtendedCertificateInfo';
 
-// Releases a record and its nodes.
+function ASN1_PKCS6_CreateExtendedCertificate(var AOut: PExtendedCertificate): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_PKCS6_CreateExtendedCertificate';
+
+// Releases a record.
 procedure ASN1_PKCS6_FreeExtendedCertificateInfo(ARecord: PExtendedCertificateInfo);
   cdecl; external VelkordLibrary name 'ASN1_PKCS6_FreeExtendedCertificateInfo';
 
-// Sets the version number.
+procedure ASN1_PKCS6_FreeExtendedCertificate(ARecord: PExtendedCertificate);
+  cdecl; external VelkordLibrary name 'ASN1_PKCS6_FreeExtendedCertificate';
+
+// Stores the version number.
 function ASN1_PKCS6_SetCertificateInfoVersion(ARecord: PExtendedCertificateInfo;
   AVersion: Cardinal): Integer;
   cdecl; external VelkordLibrary name 'ASN1_PKCS6_SetCertificateInfoVersion';
 
-// Sets a field to a copy of a SEQUENCE or a SET TLV node, its own length rewritten in shortest
-// form.
+// Sets the certificate from a SEQUENCE, or the attributes from a SET.
 function ASN1_PKCS6_SetCertificateInfoX509(ARecord: PExtendedCertificateInfo;
   AValue: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_PKCS6_SetCertificateInfoX509';
@@ -1044,44 +1031,68 @@ function ASN1_PKCS6_SetCertificateInfoAttributes(ARecord: PExtendedCertificateIn
   AValue: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_PKCS6_SetCertificateInfoAttributes';
 
-// Makes the SEQUENCE TLV node of the three fields.
+// Makes the SEQUENCE of a record, all three fields.
 function ASN1_PKCS6_CertificateInfoWriteData(ARecord: PExtendedCertificateInfo;
   var AOut: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_PKCS6_CertificateInfoWriteData';
 
-// Decodes the DER of one signed part of exactly `length` bytes into a new record.
+// Decodes the signed part.
 function ASN1_PKCS6_CertificateInfoDecode(ABytes: PByte; ALength: Cardinal;
   var AOut: PExtendedCertificateInfo): Integer;
   cdecl; external VelkordLibrary name 'ASN1_PKCS6_CertificateInfoDecode';
 
-// ==== PKCS#7: the ContentInfo around a message. A content behind the identifier of its type.
+// Sets the signed part or the algorithm from a SEQUENCE.
+function ASN1_PKCS6_SetCertificateCertificateInfo(ARecord: PExtendedCertificate;
+  AValue: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_PKCS6_SetCertificateCertificateInfo';
 
-// Makes an empty record.
+function ASN1_PKCS6_SetCertificateSignatureAlgorithmIdentifier(ARecord: PExtendedCertificate;
+  AValue: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_PKCS6_SetCertificateSignatureAlgorithmIdentifier';
+
+// Sets the signature as `ASN1_CertificateSetSignatureValue` does.
+function ASN1_PKCS6_SetCertificateSignature(ARecord: PExtendedCertificate;
+  AValue: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_PKCS6_SetCertificateSignature';
+
+// Makes the SEQUENCE of a record, all three fields.
+function ASN1_PKCS6_CertificateWriteData(ARecord: PExtendedCertificate; var AOut: PAnybuf): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_PKCS6_CertificateWriteData';
+
+// Decodes an extended certificate as `ASN1_CRL_CertificateListDecode` does a list.
+function ASN1_PKCS6_CertificateDecode(ABytes: PByte; ALength: Cardinal;
+  var AOut: PExtendedCertificate): Integer;
+  cdecl; external VelkordLibrary name 'ASN1_PKCS6_CertificateDecode';
+
+// ==== PKCS#7: the ContentInfo of a message
+
+// Creates an empty record.
 function ASN1_PKCS7_CreateContext(var AOut: PPKCS7Context): Integer;
   cdecl; external VelkordLibrary name 'ASN1_PKCS7_CreateContext';
 
-// Releases a record and its nodes.
+// Releases a record.
 procedure ASN1_PKCS7_FreeContext(ARecord: PPKCS7Context);
   cdecl; external VelkordLibrary name 'ASN1_PKCS7_FreeContext';
 
-// Sets the content type to a copy of a TLV node of any type.
+// Sets the content type, of any type, as `ASN1_WriteExplicitFromDERData` does.
 function ASN1_PKCS7_SetContentType(ARecord: PPKCS7Context; AValue: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_PKCS7_SetContentType';
 
-// Sets the content from a node of any bytes, under `[0]` EXPLICIT.
+// Sets the content from the bytes of a node of either form, under `[0]` EXPLICIT.
 function ASN1_PKCS7_SetContent(ARecord: PPKCS7Context; AValue: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_PKCS7_SetContent';
 
-// Makes the SEQUENCE TLV node of the content type and of the content, if that is set.
+// Makes the SEQUENCE of a record: the content type, and the content if it is set.
 function ASN1_PKCS7_WriteData(ARecord: PPKCS7Context; var AOut: PAnybuf): Integer;
   cdecl; external VelkordLibrary name 'ASN1_PKCS7_WriteData';
 
-// Decodes the DER of one ContentInfo of exactly `length` bytes into a new record.
+// Decodes a ContentInfo.
 function ASN1_PKCS7_Decode(ABytes: PByte; ALength: Cardinal; var AOut: PPKCS7Context): Integer;
   cdecl; external VelkordLibrary name 'ASN1_PKCS7_Decode';
 
-// ==== RSA keys. A null argument gives -1. Nothing is allocated unless record and DER overlap; then
-// ==== a lack of memory gives -1 and changes nothing.
+// ==== RSA keys. Keys of at most 2048 bits; `ASN1_SetRSAPublicKey` and `ASN1_GetRSAPublicKey` take
+// ==== public keys of any size. `VELKORD_FAILURE` also stands for a null argument and, when record
+// ==== and DER overlap, for a lack of memory; then nothing has changed.
 
 // Writes the DER of a key to `der` and its size to `derLen`: RSAPublicKey, at most 526 bytes, or
 // RSAPrivateKey of PKCS#1, at most 1450.
@@ -1098,7 +1109,9 @@ function ZantDecodePublicKey(AKey: PZantPublicKey; ADer: PByte; ADerLen: Integer
 function ZantDecodePrivateKey(AKey: PZantPrivateKey; ADer: PByte; ADerLen: Integer): Integer;
   cdecl; external VelkordLibrary name 'ZantDecodePrivateKey';
 
-// ==== Keys of elliptic curves. Nothing is allocated.
+// ==== Keys of elliptic curves. Keys of 256 bits. Returns `VELKORD_OK`, or `VELKORD_FAILURE` for
+// ==== all that is refused: a null argument, malformed DER, a missing element. Nothing has changed
+// ==== then. Nothing is allocated.
 
 // Writes the 312 bytes of a SubjectPublicKeyInfo to `der` and 312 to `derLen`.
 function ASN1_EccPubkey2Der(AKey: PEccPubkey; ADer: PByte; var ADerLen: Cardinal): Integer;
@@ -1114,8 +1127,8 @@ function ASN1_Der2EccPubkey(ADer: PByte; ADerLen: Cardinal; AKey: PEccPubkey): I
 function ASN1_Der2EccPrikey(ADer: PByte; ADerLen: Cardinal; AKey: PEccPrikey): Integer;
   cdecl; external VelkordLibrary name 'ASN1_Der2EccPrikey';
 
-// ==== SM2. The result is always 0. What cannot be done, an argument being null or the DER
-// ==== malformed, leaves all out arguments alone: preset the lengths to 0. Nothing is allocated
+// ==== SM2. The result is always `VELKORD_OK`. What cannot be done, an argument being null or the
+// ==== DER malformed, leaves all out arguments alone: preset the lengths to 0. Nothing is allocated
 // ==== unless buffers overlap; a lack of memory then counts as what cannot be done.
 
 // Writes the SEQUENCE of two positive INTEGERs to `der`, which needs room for both numbers and 20
@@ -1124,25 +1137,25 @@ function ASN1_SM2_SM2SignatureEncode(AR: PByte; ARLen: Cardinal; &AS: PByte; ASL
   ADer: PByte; var ADerLen: Cardinal): Integer;
   cdecl; external VelkordLibrary name 'ASN1_SM2_SM2SignatureEncode';
 
-// Gives the two numbers of a signature, each without the zero byte that keeps it positive.
+// Copies the two numbers of a signature, each without the zero byte that keeps it positive.
 function ASN1_SM2_SM2SignatureDecode(AR: PByte; var ARLen: Cardinal; &AS: PByte;
   var ASLen: Cardinal; ADer: PByte; ADerLen: Cardinal): Integer;
   cdecl; external VelkordLibrary name 'ASN1_SM2_SM2SignatureDecode';
 
-// Writes a private value as an INTEGER to `der`, which needs room for the value and 7 bytes more.
+// Writes a private value as an INTEGER to `der`, 7 bytes more at most.
 function ASN1_SM2_PrikeyEncode(AValue: PByte; AValueLen: Cardinal; ADer: PByte;
   var ADerLen: Cardinal): Integer; cdecl; external VelkordLibrary name 'ASN1_SM2_PrikeyEncode';
 
-// Gives a private value without the zero byte that keeps it positive.
+// Copies a private value without the zero byte that keeps it positive.
 function ASN1_SM2_PrikeyDecode(AValue: PByte; var AValueLen: Cardinal; ADer: PByte;
   ADerLen: Cardinal): Integer; cdecl; external VelkordLibrary name 'ASN1_SM2_PrikeyDecode';
 
-// Writes a public point as a BIT STRING to `der`: 0x04, X and Y, together at most 256 bytes, and 5
-// bytes at most in front.
+// Writes a public point as a BIT STRING to `der`: at most 5 bytes, then 0x04, X and Y, together at
+// most 256.
 function ASN1_SM2_PubkeyEncode(AX: PByte; AXLen: Cardinal; AY: PByte; AYLen: Cardinal; ADer: PByte;
   var ADerLen: Cardinal): Integer; cdecl; external VelkordLibrary name 'ASN1_SM2_PubkeyEncode';
 
-// Gives the two halves, of equal length, of what follows the first byte of a public point; an odd
+// Copies the two halves, of equal length, of what follows the first byte of a public point; an odd
 // last byte is left out.
 function ASN1_SM2_PubkeyDecode(AX: PByte; var AXLen: Cardinal; AY: PByte; var AYLen: Cardinal;
   ADer: PByte; ADerLen: Cardinal): Integer;
@@ -1181,7 +1194,7 @@ function uniToUTF8(AOut: PByte; AOutSize: Integer; ACode: Cardinal): Integer;
 function utf8ToUni(AIn: PByte; AInLen: Integer; var ACode: Cardinal): Integer;
   cdecl; external VelkordLibrary name 'utf8ToUni';
 
-// Returns the code point of a GB code.
+// Returns the code point of a GB code, or for one that is not assigned that of a row near it.
 function ctouni(AGb: Cardinal): Cardinal; cdecl; external VelkordLibrary name 'ctouni';
 
 // Returns the GB code of a code point, or 0 when it has none.
@@ -1194,7 +1207,7 @@ function zhToWc(AIn: PByte; AN: Cardinal): Cardinal; cdecl; external VelkordLibr
 procedure wcToZh(AOut: PByte; var AOutLen: Cardinal; ACode: Integer);
   cdecl; external VelkordLibrary name 'wcToZh';
 
-// Turns GB2312 text, two bytes a character, into UTF-8; an odd last byte is ignored.
+// Turns GB2312 text into UTF-8, 3 bytes at most for each pair of bytes.
 procedure zhsToUtf8s(AIn: PByte; AInLen: Integer; AOut: PByte; var AOutLen: Cardinal);
   cdecl; external VelkordLibrary name 'zhsToUtf8s';
 

@@ -6,21 +6,19 @@ from ctypes import Structure, c_char, c_char_p, c_int32, c_size_t, c_uint32, c_u
 
 # Success.
 VELKORD_OK = 0
-# A length of more than 4 subsequent octets; a child that overruns its parent, has the indefinite
-# length or is missing; out of memory for a node; all that a function of EC keys refuses, and of RSA
-# keys all that is not -2 or -7.
+# No memory, a length too long, a child that does not fit.
 VELKORD_FAILURE = -1
-# Tag, length and content do not add up to the bytes given, or the length is indefinite.
+# Tag, length and content are not the bytes given.
 VELKORD_SIZE_MISMATCH = -2
-# A time value below 0.
+# A time below 0.
 VELKORD_NEGATIVE_TIME = -4
-# A time text without its digits or its final "Z".
+# A malformed time text.
 VELKORD_BAD_TIME = -5
-# Not the SEQUENCE, SET, time form or string type that is needed.
+# Another type than the one that is needed.
 VELKORD_WRONG_TAG = -7
 # A null argument, or a required field that was never set.
 VELKORD_NULL_ARGUMENT = -8
-# Out of memory for a record; or a time outside 1970 to 2038.
+# No memory for a record, or a time outside 1970 to 2038.
 VELKORD_OUT_OF_MEMORY = -7000
 
 
@@ -275,64 +273,18 @@ def _of(result, /, **arguments):
 
 # The types of the result and of each argument.
 FUNCTIONS = {
-    # ==== Value nodes. The value that all others are made of.
+    # ==== Value nodes
     # Makes a content node with a copy of `length` bytes.
     "ASN1_CreateAnybuf": _of(c_int32, bytes=c_char_p, length=c_uint32, type=c_uint8,
         out=P(P(Anybuf))),
-    # Releases `node` and every node after it, each with its `data`.
+    # Makes a node of DER bytes, unchanged.
+    "ASN1_WriteExplicitFromDERData": _of(c_int32, bytes=c_char_p, length=c_uint32,
+        out=P(P(Anybuf))),
+    # Releases `node` and every node after it, so it is for the head of a chain only.
     "ASN1_FreeAnybuf": _of(None, node=P(Anybuf)),
-    # Releases a record and its `data`; `next` is not followed.
-    "ASN1_FreeObjectID": _of(None, record=P(ObjectID)),
-    # ==== INTEGER. Unsigned magnitudes, big-endian.
-    # Gives the DER content octets of `value`, 1 to 5 of them, and their count in a cell of its own.
-    "Asn1LowIntToChar": _of(c_int32, value=c_uint32, outBytes=P(P(c_uint8)),
-        outLength=P(P(c_uint32))),
-    # Makes the TLV node of a number.
-    "ASN1_WriteInteger": _of(c_int32, value=c_uint32, out=P(P(Anybuf))),
-    # Reads the number of a TLV node of any type: its low 32 bits.
-    "ASN1_ReadInteger": _of(c_int32, source=P(Anybuf), value=P(c_uint32)),
-    # Makes an INTEGER TLV node over a magnitude: a zero octet goes in front of a first byte of 0x80
-    # or more; leading zeros stay.
-    "ASN1_WriteIntegerArray": _of(c_int32, source=P(Anybuf), out=P(P(Anybuf))),
-    "ASN1_WriteIntegerArrayFromBytes": _of(c_int32, bytes=c_char_p, length=c_uint32,
-        out=P(P(Anybuf))),
-    # ==== SEQUENCE and SET. Chains of TLV nodes.
-    # Starts a chain with a copy of `element`; its `next` is not followed.
-    "ASN1_CreateSequence": _of(c_int32, element=P(Anybuf), out=P(P(Anybuf))),
-    "ASN1_CreateSet": _of(c_int32, element=P(Anybuf), out=P(P(Anybuf))),
-    # Appends a copy of `element` at the end of `chain`, to which it walks.
-    "ASN1_AddSequence": _of(None, element=P(Anybuf), chain=P(Anybuf)),
-    "ASN1_AddSet": _of(None, element=P(Anybuf), chain=P(Anybuf)),
-    # Releases a whole chain, as `ASN1_FreeAnybuf` does.
-    "ASN1_FreeSequence": _of(None, chain=P(Anybuf)),
-    "ASN1_FreeSet": _of(None, chain=P(Anybuf)),
-    # Makes one SEQUENCE or SET TLV node over the bytes of a chain, in the chain's order; a null
-    # chain gives an empty element.
-    "ASN1_WriteSequence": _of(c_int32, chain=P(Anybuf), out=P(P(Anybuf))),
-    "ASN1_WriteSet": _of(c_int32, chain=P(Anybuf), out=P(P(Anybuf))),
-    # Splits one SEQUENCE or SET, in a TLV node or in plain bytes, into the chain of its direct
-    # children, each a whole TLV node.
-    "ASN1_ReadSequence": _of(c_int32, source=P(Anybuf), out=P(P(Anybuf))),
-    "ASN1_ReadSet": _of(c_int32, source=P(Anybuf), out=P(P(Anybuf))),
-    "ASN1_WriteSequenceFromDERBytes": _of(c_int32, bytes=c_char_p, length=c_uint32,
-        out=P(P(Anybuf))),
-    "ASN1_WriteSetFromDERData": _of(c_int32, bytes=c_char_p, length=c_uint32, out=P(P(Anybuf))),
-    # ==== OBJECT IDENTIFIER. Dotted text, content octets and TLV nodes.
-    # Turns dotted text of `textLength` characters into content octets; blanks may stand for points.
-    "ASN1_OBJECT_a2d": _of(c_int32, out=P(c_uint8), outLength=P(c_uint32), text=c_char_p,
-        textLength=c_int32),
-    # Makes an OBJECT IDENTIFIER TLV node over content octets; `id` has no effect.
-    "ASN1_WriteObjectId": _of(c_int32, record=P(ObjectID), out=P(P(Anybuf))),
-    "ASN1_WriteObjectIdFromData": _of(c_int32, id=c_int32, bytes=c_char_p, length=c_uint32,
-        out=P(P(Anybuf))),
-    # Reads the content of a TLV node of any type into a new record.
-    "ASN1_ReadObjectId": _of(c_int32, source=P(Anybuf), out=P(P(ObjectID))),
-    # Copies the content of a TLV node of any type to `out`, which needs room for all of it.
-    "ASN1_ReadObjectIdToBytes": _of(c_int32, source=P(Anybuf), out=P(c_uint8),
-        outLength=P(c_uint32)),
-    # ==== Byte and character strings, ENUMERATED, BOOLEAN, NULL. Writing differs by the tag alone,
-    # ==== and reading is the same for all.
-    # Makes a TLV node over a content node of any type.
+    # ==== Byte and character strings, ENUMERATED, BOOLEAN, NULL. Writing differs by the tag alone;
+    # ==== reading is the same for all. CharString is PrintableString.
+    # Makes an element over a content node of any type.
     "ASN1_WriteOctetString": _of(c_int32, source=P(Anybuf), out=P(P(Anybuf))),
     "ASN1_WriteBitString": _of(c_int32, source=P(Anybuf), out=P(P(Anybuf))),
     "ASN1_WriteCharString": _of(c_int32, source=P(Anybuf), out=P(P(Anybuf))),
@@ -341,7 +293,7 @@ FUNCTIONS = {
     "ASN1_WriteIa5String": _of(c_int32, source=P(Anybuf), out=P(P(Anybuf))),
     "ASN1_WriteEnumerated": _of(c_int32, source=P(Anybuf), out=P(P(Anybuf))),
     "ASN1_WritePrintableString": _of(c_int32, source=P(Anybuf), out=P(P(Anybuf))),
-    # Makes a TLV node over content bytes.
+    # Makes an element over content bytes.
     "ASN1_WriteOctetStringFromBytes": _of(c_int32, bytes=c_char_p, length=c_uint32,
         out=P(P(Anybuf))),
     "ASN1_WriteBitStringFromBytes": _of(c_int32, bytes=c_char_p, length=c_uint32, out=P(P(Anybuf))),
@@ -351,36 +303,40 @@ FUNCTIONS = {
         out=P(P(Anybuf))),
     "ASN1_WriteBmpStringFromBytes": _of(c_int32, bytes=c_char_p, length=c_uint32, out=P(P(Anybuf))),
     "ASN1_WriteIa5StringFromBytes": _of(c_int32, bytes=c_char_p, length=c_uint32, out=P(P(Anybuf))),
-    # As above: a PrintableString when `selector` is not 0, a BMPString when it is.
+    # Makes a PrintableString over content bytes when `selector` is not 0, and a BMPString when it
+    # is.
     "ASN1_WritePrintableStringFromBytes": _of(c_int32, selector=c_int32, bytes=c_char_p,
         length=c_uint32, out=P(P(Anybuf))),
-    # Stores the DER of a whole BIT STRING unchanged in a TLV node; `unusedBits` is the octet behind
+    # Other names of `ASN1_WriteExplicitFromDERData`; none tests the type.
+    "ASN1_WriteOctetStringFromDERBytes": _of(c_int32, bytes=c_char_p, length=c_uint32,
+        out=P(P(Anybuf))),
+    "ASN1_WriteCharStringFromDERBytes": _of(c_int32, bytes=c_char_p, length=c_uint32,
+        out=P(P(Anybuf))),
+    "ASN1_WriteUTF8StringFromDERBytes": _of(c_int32, bytes=c_char_p, length=c_uint32,
+        out=P(P(Anybuf))),
+    "ASN1_WriteBmpStringFromDERBytes": _of(c_int32, bytes=c_char_p, length=c_uint32,
+        out=P(P(Anybuf))),
+    "ASN1_WriteIa5StringFromDERBytes": _of(c_int32, bytes=c_char_p, length=c_uint32,
+        out=P(P(Anybuf))),
+    "ASN1_WritePrintableStringFromDERBytes": _of(c_int32, bytes=c_char_p, length=c_uint32,
+        out=P(P(Anybuf))),
+    # Reads the DER bytes of a BIT STRING into a node, unchanged; `unusedBits` is the octet after
     # the header.
     "ASN1_WriteBitStringFromDERBytes": _of(c_int32, bytes=c_char_p, length=c_uint32,
         out=P(P(Anybuf))),
-    # Makes the TLV node of a BOOLEAN with the byte at `value` unchanged.
-    "ASN1_WriteBoolean": _of(c_int32, value=c_char_p, out=P(P(Anybuf))),
-    # Gives the first content octet of a TLV node of any type as it stands: that of a BIT STRING is
-    # its unused-bits octet.
-    "ASN1_ReadBoolean": _of(c_int32, source=P(Anybuf), value=P(c_uint8)),
-    # Makes the TLV node of a NULL.
-    "ASN1_WriteNull": _of(c_int32, out=P(P(Anybuf))),
-    # Makes the content node of a TLV node of any type; `dataType` is the tag that was read.
+    # Reads an element of any type into a content node; `dataType` is the tag that was read.
     "ASN1_ReadBitString": _of(c_int32, source=P(Anybuf), out=P(P(Anybuf))),
     "ASN1_ReadBmpString": _of(c_int32, source=P(Anybuf), out=P(P(Anybuf))),
     "ASN1_ReadCharString": _of(c_int32, source=P(Anybuf), out=P(P(Anybuf))),
     "ASN1_ReadEnumerated": _of(c_int32, source=P(Anybuf), out=P(P(Anybuf))),
     "ASN1_ReadIa5String": _of(c_int32, source=P(Anybuf), out=P(P(Anybuf))),
-    "ASN1_ReadIntegerArray": _of(c_int32, source=P(Anybuf), out=P(P(Anybuf))),
     "ASN1_ReadOctetString": _of(c_int32, source=P(Anybuf), out=P(P(Anybuf))),
     "ASN1_ReadPrintableString": _of(c_int32, source=P(Anybuf), out=P(P(Anybuf))),
     "ASN1_ReadUTF8String": _of(c_int32, source=P(Anybuf), out=P(P(Anybuf))),
-    # Copies that content to `out` and its size to `outLength`.
+    # Reads the same content into `out` and its size into `outLength`.
     "ASN1_ReadCharStringToBytes": _of(c_int32, source=P(Anybuf), out=P(c_uint8),
         outLength=P(c_uint32)),
     "ASN1_ReadIa5StringToBytes": _of(c_int32, source=P(Anybuf), out=P(c_uint8),
-        outLength=P(c_uint32)),
-    "ASN1_ReadIntegerArrayToBytes": _of(c_int32, source=P(Anybuf), out=P(c_uint8),
         outLength=P(c_uint32)),
     "ASN1_ReadOctetStringToBytes": _of(c_int32, source=P(Anybuf), out=P(c_uint8),
         outLength=P(c_uint32)),
@@ -388,221 +344,239 @@ FUNCTIONS = {
         outLength=P(c_uint32)),
     "ASN1_ReadUTF8StringToBytes": _of(c_int32, source=P(Anybuf), out=P(c_uint8),
         outLength=P(c_uint32)),
-    # The same for BMP text: of each pair of bytes a zero high byte is left out, and an odd last
-    # byte too.
+    # Reads the same of BMP text without the high bytes that are zero and without an odd last byte.
     "ASN1_ReadBmpStringToBytes": _of(c_int32, source=P(Anybuf), out=P(c_uint8),
         outLength=P(c_uint32)),
-    # ==== Tags and raw DER. EXPLICIT and IMPLICIT tags, and DER bytes stored as they are.
-    # Makes a TLV node of tag octet `tagNumber | 0xA0` around the source's bytes, or around plain
-    # bytes; of `tagNumber` the low byte counts.
+    # Makes a BOOLEAN with the byte at `value` unchanged.
+    "ASN1_WriteBoolean": _of(c_int32, value=c_char_p, out=P(P(Anybuf))),
+    # Reads the first content octet of an element of any type, of a BIT STRING its unused-bits
+    # octet.
+    "ASN1_ReadBoolean": _of(c_int32, source=P(Anybuf), value=P(c_uint8)),
+    # Makes a NULL.
+    "ASN1_WriteNull": _of(c_int32, out=P(P(Anybuf))),
+    # ==== INTEGER. Numbers are unsigned; those of any size are big-endian bytes.
+    # Makes the content octets of a number, 1 to 5 of them, and their count in a cell of its own.
+    "Asn1LowIntToChar": _of(c_int32, value=c_uint32, outBytes=P(P(c_uint8)),
+        outLength=P(P(c_uint32))),
+    # Makes the INTEGER of a number.
+    "ASN1_WriteInteger": _of(c_int32, value=c_uint32, out=P(P(Anybuf))),
+    # Reads the low 32 bits of the number in an element of any type.
+    "ASN1_ReadInteger": _of(c_int32, source=P(Anybuf), value=P(c_uint32)),
+    # Makes an INTEGER over a content node of any type or over bytes: a zero octet goes in front of
+    # a first byte of 0x80 or more; leading zeros stay.
+    "ASN1_WriteIntegerArray": _of(c_int32, source=P(Anybuf), out=P(P(Anybuf))),
+    "ASN1_WriteIntegerArrayFromBytes": _of(c_int32, bytes=c_char_p, length=c_uint32,
+        out=P(P(Anybuf))),
+    # Another name of `ASN1_WriteExplicitFromDERData`.
+    "ASN1_WriteIntegerArrayFromDERBytes": _of(c_int32, bytes=c_char_p, length=c_uint32,
+        out=P(P(Anybuf))),
+    # Another name of `ASN1_ReadBitString`.
+    "ASN1_ReadIntegerArray": _of(c_int32, source=P(Anybuf), out=P(P(Anybuf))),
+    # Another name of `ASN1_ReadOctetStringToBytes`.
+    "ASN1_ReadIntegerArrayToBytes": _of(c_int32, source=P(Anybuf), out=P(c_uint8),
+        outLength=P(c_uint32)),
+    # ==== OBJECT IDENTIFIER
+    # Turns dotted text of `textLength` characters into content octets; blanks may stand for points.
+    "ASN1_OBJECT_a2d": _of(c_int32, out=P(c_uint8), outLength=P(c_uint32), text=c_char_p,
+        textLength=c_int32),
+    # Makes an OBJECT IDENTIFIER over content octets; `id` has no effect.
+    "ASN1_WriteObjectId": _of(c_int32, record=P(ObjectID), out=P(P(Anybuf))),
+    "ASN1_WriteObjectIdFromData": _of(c_int32, id=c_int32, bytes=c_char_p, length=c_uint32,
+        out=P(P(Anybuf))),
+    # Another name of `ASN1_WriteExplicitFromDERData`.
+    "ASN1_WriteObjectIdFromDERBytes": _of(c_int32, bytes=c_char_p, length=c_uint32,
+        out=P(P(Anybuf))),
+    # Reads the content of an element of any type into a new record.
+    "ASN1_ReadObjectId": _of(c_int32, source=P(Anybuf), out=P(P(ObjectID))),
+    # Releases a record and its `data`; `next` is not followed.
+    "ASN1_FreeObjectID": _of(None, record=P(ObjectID)),
+    # Another name of `ASN1_ReadOctetStringToBytes`.
+    "ASN1_ReadObjectIdToBytes": _of(c_int32, source=P(Anybuf), out=P(c_uint8),
+        outLength=P(c_uint32)),
+    # ==== SEQUENCE and SET. Chains are built, joined and split. The order of the elements stays as
+    # ==== it is, in a SET too.
+    # Makes a chain of one node, a copy of `element`; its `next` is not followed.
+    "ASN1_CreateSequence": _of(c_int32, element=P(Anybuf), out=P(P(Anybuf))),
+    "ASN1_CreateSet": _of(c_int32, element=P(Anybuf), out=P(P(Anybuf))),
+    # Appends a copy of `element` at the end of `chain`, to which it walks.
+    "ASN1_AddSequence": _of(None, element=P(Anybuf), chain=P(Anybuf)),
+    "ASN1_AddSet": _of(None, element=P(Anybuf), chain=P(Anybuf)),
+    # Other names of `ASN1_FreeAnybuf`.
+    "ASN1_FreeSequence": _of(None, chain=P(Anybuf)),
+    "ASN1_FreeSet": _of(None, chain=P(Anybuf)),
+    # Makes one SEQUENCE or SET over the bytes of a chain; a null chain makes an empty element.
+    "ASN1_WriteSequence": _of(c_int32, chain=P(Anybuf), out=P(P(Anybuf))),
+    "ASN1_WriteSet": _of(c_int32, chain=P(Anybuf), out=P(P(Anybuf))),
+    # Opens a SEQUENCE or SET, in a node or in bytes: the chain of its children, null for none.
+    "ASN1_ReadSequence": _of(c_int32, source=P(Anybuf), out=P(P(Anybuf))),
+    "ASN1_ReadSet": _of(c_int32, source=P(Anybuf), out=P(P(Anybuf))),
+    "ASN1_WriteSequenceFromDERBytes": _of(c_int32, bytes=c_char_p, length=c_uint32,
+        out=P(P(Anybuf))),
+    "ASN1_WriteSetFromDERData": _of(c_int32, bytes=c_char_p, length=c_uint32, out=P(P(Anybuf))),
+    # ==== EXPLICIT and IMPLICIT tags. Of a tag number the low byte counts.
+    # Makes an element of tag octet `tagNumber | 0xA0` around a node of either form, or around
+    # bytes.
     "ASN1_WriteExplicit": _of(c_int32, source=P(Anybuf), tagNumber=c_uint8, out=P(P(Anybuf))),
     "ASN1_WriteExplicitFromData": _of(c_int32, tagNumber=c_uint32, bytes=c_char_p, length=c_uint32,
         out=P(P(Anybuf))),
-    # Opens a TLV node of any type: its content as `ASN1_ReadBitString` gives it, and its reduced
-    # tag (0xA3 for `[3]`).
+    # Reads an element of any type: its content as `ASN1_ReadBitString` does, and its reduced tag,
+    # 0xA3 for `[3]`.
     "ASN1_ReadExplicit": _of(c_int32, source=P(Anybuf), out=P(P(Anybuf)), outTag=P(c_uint32)),
     "ASN1_ReadExplicitToBytes": _of(c_int32, source=P(Anybuf), out=P(c_uint8),
         outLength=P(c_uint32), outTag=P(c_uint32)),
-    # Makes a TLV node with the source's content under another tag: `tagNumber | 0xA0` for a source
-    # of `dataType` 16 or 17, `tagNumber | 0x80` otherwise; the low byte counts.
+    # Reads an element and makes one of the same content under another tag: `tagNumber | 0xA0` for a
+    # source of `dataType` 16 or 17, `tagNumber | 0x80` otherwise.
     "ASN1_WriteImplicit": _of(c_int32, source=P(Anybuf), tagNumber=c_uint32, out=P(P(Anybuf))),
-    # Opens an element under an IMPLICIT tag.
+    # Reads an element under an IMPLICIT tag.
     "ASN1_ReadImplicit": _of(c_int32, source=P(Anybuf), out=P(P(Anybuf)), outTagNumber=P(c_uint32)),
-    # Stores DER bytes unchanged in a TLV node; only the tag is read.
-    "ASN1_WriteExplicitFromDERData": _of(c_int32, bytes=c_char_p, length=c_uint32,
-        out=P(P(Anybuf))),
-    "ASN1_WriteBmpStringFromDERBytes": _of(c_int32, bytes=c_char_p, length=c_uint32,
-        out=P(P(Anybuf))),
-    "ASN1_WriteCharStringFromDERBytes": _of(c_int32, bytes=c_char_p, length=c_uint32,
-        out=P(P(Anybuf))),
-    "ASN1_WriteIa5StringFromDERBytes": _of(c_int32, bytes=c_char_p, length=c_uint32,
-        out=P(P(Anybuf))),
-    "ASN1_WriteIntegerArrayFromDERBytes": _of(c_int32, bytes=c_char_p, length=c_uint32,
-        out=P(P(Anybuf))),
-    "ASN1_WriteObjectIdFromDERBytes": _of(c_int32, bytes=c_char_p, length=c_uint32,
-        out=P(P(Anybuf))),
-    "ASN1_WriteOctetStringFromDERBytes": _of(c_int32, bytes=c_char_p, length=c_uint32,
-        out=P(P(Anybuf))),
-    "ASN1_WritePrintableStringFromDERBytes": _of(c_int32, bytes=c_char_p, length=c_uint32,
-        out=P(P(Anybuf))),
-    "ASN1_WriteUTF8StringFromDERBytes": _of(c_int32, bytes=c_char_p, length=c_uint32,
-        out=P(P(Anybuf))),
-    # ==== Time. Seconds since 1 January 1970 against local time text.
-    # Makes the TLV node of a time.
+    # ==== Time. A time is a number of seconds since 1 January 1970. The text of an element is the
+    # ==== machine's local time followed by "Z", so it is UTC only where the local zone is UTC. The
+    # ==== zone is that of the C library: the one that TZ names at the call, or without TZ the one
+    # ==== that it has read; whoever changes that calls `tzset`, on Windows `_tzset`.
+    # Makes the element of a time.
     "ASN1_WriteGeneralizedTime": _of(c_int32, time=P(c_int32), out=P(P(Anybuf))),
     "ASN1_WriteUtcTime": _of(c_int32, time=P(c_int32), out=P(P(Anybuf))),
-    # Reads the time of a TLV node as local time.
+    # Reads the time of an element of that form.
     "ASN1_ReadGeneralizedTime": _of(c_int32, source=P(Anybuf), time=P(c_int32)),
     "ASN1_ReadUtcTime": _of(c_int32, source=P(Anybuf), time=P(c_int32)),
-    # ==== Names. Attributes, relative names and names.
-    # Makes a record with copies of two TLV nodes.
+    # ==== Names. A name is a SEQUENCE of relative names, and a relative name a SET of attributes.
+    # ==== The value of an attribute is a UTF8String, PrintableString or IA5String; for another type
+    # ==== a function that looks at it returns `VELKORD_WRONG_TAG`.
+    # Creates a record with copies of two nodes.
     "ASN1_SetAttributeTypeAndValue": _of(c_int32, type=P(Anybuf), value=P(Anybuf),
         out=P(P(AttributeTypeAndValue))),
-    # Makes the SEQUENCE TLV node of an attribute.
+    # Releases a record.
+    "ASN1_FreeAttributeTypeAndValue": _of(None, record=P(AttributeTypeAndValue)),
+    # Makes the SEQUENCE of an attribute.
     "ASN1_GetDerAttributeTypeAndValue": _of(c_int32, record=P(AttributeTypeAndValue),
         out=P(P(Anybuf))),
-    # Opens the SEQUENCE TLV node of an attribute: its OBJECT IDENTIFIER and its UTF8String,
-    # PrintableString or IA5String as new TLV nodes.
+    # Opens the SEQUENCE of an attribute: its OBJECT IDENTIFIER and its value as new nodes.
     "ASN1_DecodeDerAttributeTypeAndValue": _of(c_int32, source=P(Anybuf), outType=P(P(Anybuf)),
         outValue=P(P(Anybuf))),
-    # Releases a record and its nodes.
-    "ASN1_FreeAttributeTypeAndValue": _of(None, record=P(AttributeTypeAndValue)),
-    # The SET of a relative name: written as `ASN1_WriteSet` does, split as `ASN1_ReadSet` and
-    # `ASN1_WriteSetFromDERData` do.
-    "ASN1_GetDerRelativeDistinguishedName": _of(c_int32, chain=P(Anybuf), out=P(P(Anybuf))),
-    "ASN1_ReadRelativeDistinguishedName": _of(c_int32, source=P(Anybuf), out=P(P(Anybuf))),
-    "ASN1_ReadRelativeDistinguishedNameFromByte": _of(c_int32, bytes=c_char_p, length=c_uint32,
-        out=P(P(Anybuf))),
-    # Makes the SET TLV node of a relative name with one attribute, from a string TLV node of
-    # `dataType` 12, 19 or 22 and the attribute's OID as dotted text; `id` has no effect.
+    # Makes the SET of a relative name with one attribute, from its value and its OID as dotted
+    # text; `id` has no effect.
     "ASN1_GetDerRelativeDistinguishedNameOne": _of(c_int32, value=P(Anybuf), id=c_int32,
         oidText=c_char_p, oidTextLength=c_int32, out=P(P(Anybuf))),
-    # Opens the SET TLV node of a relative name and gives its first attribute: the value's bytes, a
-    # UTF8String turned into GB2312 by `utf8sToZhs`, and the OID's content octets.
+    # Opens the SET of a relative name and copies the value and the OID's octets of its first
+    # attribute, a UTF8String turned into GB2312 by `utf8sToZhs`.
     "ASN1_DecodeDerRelativeDistinguishedNameOne": _of(c_int32, source=P(Anybuf), value=P(c_uint8),
         valueLength=P(c_uint32), oid=P(c_uint8), oidLength=P(c_uint32)),
-    # `ASN1_CreateSet` under the names of what is listed.
+    # Other names of `ASN1_CreateSet`: start a chain of relative names or of attributes.
     "ASN1_CreateName": _of(c_int32, element=P(Anybuf), out=P(P(Anybuf))),
     "ASN1_CreateRelativeDistinguishedName": _of(c_int32, element=P(Anybuf), out=P(P(Anybuf))),
-    "ASN1_CreateExtensions": _of(c_int32, element=P(Anybuf), out=P(P(Anybuf))),
-    # `ASN1_AddSet` under the names of what is listed: the element first, the chain second.
+    # Other names of `ASN1_AddSet`: the element first, the chain second.
     "ASN1_AddName": _of(None, element=P(Anybuf), chain=P(Anybuf)),
     "ASN1_AddRelativeDistinguishedName": _of(None, element=P(Anybuf), chain=P(Anybuf)),
-    "ASN1_AddExtensions": _of(None, element=P(Anybuf), chain=P(Anybuf)),
-    # `ASN1_WriteSequence` under the names of what is listed.
-    "ASN1_GetDerName": _of(c_int32, chain=P(Anybuf), out=P(P(Anybuf))),
-    "ASN1_WriteExtensions": _of(c_int32, chain=P(Anybuf), out=P(P(Anybuf))),
-    # `ASN1_ReadSequence` under the names of what is listed.
-    "ASN1_ReadDerName": _of(c_int32, source=P(Anybuf), out=P(P(Anybuf))),
-    "ASN1_ReadExtensions": _of(c_int32, source=P(Anybuf), out=P(P(Anybuf))),
-    # `ASN1_FreeAnybuf` under the names of what is released.
+    # Other names of `ASN1_FreeAnybuf`.
     "ASN1_FreeNames": _of(None, chain=P(Anybuf)),
     "ASN1_FreeRelativeDistinguishedName": _of(None, chain=P(Anybuf)),
-    "ASN1_FreeExtension": _of(None, chain=P(Anybuf)),
-    "ASN1_FreeExtensions": _of(None, chain=P(Anybuf)),
-    "ASN1_FreeAlgorithmIdentifier": _of(None, chain=P(Anybuf)),
-    "ASN1_FreeSubjectPublicKeyInfo": _of(None, chain=P(Anybuf)),
-    "ASN1_FreeRSAPublicKey": _of(None, chain=P(Anybuf)),
-    "ASN1_FreeValidity": _of(None, chain=P(Anybuf)),
-    # ==== Validity, algorithm and key info. Parts that certificates and requests share.
-    # Makes the SEQUENCE TLV node of two TLV nodes: notBefore and notAfter, or modulus and exponent.
+    # Another name of `ASN1_WriteSequence`.
+    "ASN1_GetDerName": _of(c_int32, chain=P(Anybuf), out=P(P(Anybuf))),
+    # Another name of `ASN1_ReadSequence`.
+    "ASN1_ReadDerName": _of(c_int32, source=P(Anybuf), out=P(P(Anybuf))),
+    # Another name of `ASN1_WriteSet`.
+    "ASN1_GetDerRelativeDistinguishedName": _of(c_int32, chain=P(Anybuf), out=P(P(Anybuf))),
+    # Another name of `ASN1_ReadSet`.
+    "ASN1_ReadRelativeDistinguishedName": _of(c_int32, source=P(Anybuf), out=P(P(Anybuf))),
+    # Another name of `ASN1_WriteSetFromDERData`.
+    "ASN1_ReadRelativeDistinguishedNameFromByte": _of(c_int32, bytes=c_char_p, length=c_uint32,
+        out=P(P(Anybuf))),
+    # ==== Validity, algorithms and public keys
+    # Makes the SEQUENCE of two times, which are not tested.
     "ASN1_SetValidity": _of(c_int32, notBefore=P(Anybuf), notAfter=P(Anybuf), out=P(P(Anybuf))),
-    "ASN1_SetRSAPublicKey": _of(c_int32, modulus=P(Anybuf), exponent=P(Anybuf), out=P(P(Anybuf))),
-    # Reads both times of a Validity TLV node, in either form; of more than two the last is
-    # notAfter.
+    # Opens a Validity and reads both times, in either form; of more than two the last is notAfter.
     "ASN1_GetValidity": _of(c_int32, source=P(Anybuf), notBefore=P(c_int32), notAfter=P(c_int32)),
-    # Opens the SEQUENCE TLV node of an RSA public key: both numbers as new INTEGER TLV nodes,
-    # positive; of more than two elements the last is the exponent.
-    "ASN1_GetRSAPublicKey": _of(c_int32, source=P(Anybuf), outModulus=P(P(Anybuf)),
-        outExponent=P(P(Anybuf))),
-    # Makes an AlgorithmIdentifier TLV node of `oid` and one more element: `parameter` when it is
-    # not null, else NULL when `mode` is 1, else `alternative`, which must then be there.
+    # Another name of `ASN1_FreeAnybuf`.
+    "ASN1_FreeValidity": _of(None, chain=P(Anybuf)),
+    # Makes an AlgorithmIdentifier of `oid` and one more element: `parameter` when it is not null,
+    # else NULL when `mode` is 1, else `alternative`, which must then be there.
     "ASN1_SetAlgorithmIdentifier": _of(c_int32, mode=c_uint32, oid=P(Anybuf), alternative=P(Anybuf),
         parameter=P(Anybuf), out=P(P(Anybuf))),
-    # Opens an AlgorithmIdentifier TLV node.
+    # Opens an AlgorithmIdentifier.
     "ASN1_GetAlgorithmIdentifier": _of(c_int32, source=P(Anybuf), outOid=P(P(Anybuf)),
         outSequence=P(P(Anybuf)), outParameterOid=P(P(Anybuf))),
-    # Makes a SubjectPublicKeyInfo TLV node: a copy of `algorithm`, then a BIT STRING over the bytes
-    # of `key`, written as `ASN1_WriteBitStringFromBytes` does.
+    # Another name of `ASN1_FreeAnybuf`.
+    "ASN1_FreeAlgorithmIdentifier": _of(None, chain=P(Anybuf)),
+    # Makes a SubjectPublicKeyInfo: a copy of `algorithm`, then a BIT STRING over the bytes of
+    # `key`, a node of either form, as `ASN1_WriteBitStringFromBytes` writes it.
     "ASN1_SetSubjectPublicKeyInfo": _of(c_int32, algorithm=P(Anybuf), key=P(Anybuf),
         out=P(P(Anybuf))),
-    # Opens a SubjectPublicKeyInfo TLV node: AlgorithmIdentifier and BIT STRING as new TLV nodes,
-    # the unused-bits octet always 0.
+    # Opens a SubjectPublicKeyInfo: both parts as new nodes, the unused-bits octet always 0.
     "ASN1_GetSubjectPublicKeyInfo": _of(c_int32, source=P(Anybuf), outAlgorithm=P(P(Anybuf)),
         outKey=P(P(Anybuf))),
-    # ==== Extensions. Single, and as a list.
-    # Makes an Extension TLV node of an OID, a BOOLEAN, which may be null, and an OCTET STRING, all
-    # TLV nodes; none is tested.
+    # Another name of `ASN1_FreeAnybuf`.
+    "ASN1_FreeSubjectPublicKeyInfo": _of(None, chain=P(Anybuf)),
+    # Another name of `ASN1_SetValidity`: makes the SEQUENCE of two INTEGERs.
+    "ASN1_SetRSAPublicKey": _of(c_int32, modulus=P(Anybuf), exponent=P(Anybuf), out=P(P(Anybuf))),
+    # Opens the SEQUENCE of an RSA public key: both numbers as new INTEGERs, positive; of more than
+    # two elements the last is the exponent.
+    "ASN1_GetRSAPublicKey": _of(c_int32, source=P(Anybuf), outModulus=P(P(Anybuf)),
+        outExponent=P(P(Anybuf))),
+    # Another name of `ASN1_FreeAnybuf`.
+    "ASN1_FreeRSAPublicKey": _of(None, chain=P(Anybuf)),
+    # ==== Extensions
+    # Makes an Extension of an OID, a BOOLEAN, which may be null, and an OCTET STRING; none is
+    # tested.
     "ASN1_SetExtension": _of(c_int32, oid=P(Anybuf), critical=P(Anybuf), value=P(Anybuf),
         out=P(P(Anybuf))),
-    # Makes an Extension TLV node from the OID's content octets and the value's bytes.
+    # Makes an Extension from the OID's content octets and the value's bytes.
     "ASN1_GetExtensionOne": _of(c_int32, id=c_int32, oid=c_char_p, oidLength=c_uint32,
         critical=c_uint32, value=c_char_p, valueLength=c_uint32, out=P(P(Anybuf))),
-    # Opens an Extension TLV node: OBJECT IDENTIFIER, BOOLEAN and OCTET STRING as new TLV nodes.
+    # Opens an Extension: OBJECT IDENTIFIER, BOOLEAN and OCTET STRING as new nodes.
     "ASN1_GetExtension": _of(c_int32, source=P(Anybuf), outOid=P(P(Anybuf)),
         outCritical=P(P(Anybuf)), outValue=P(P(Anybuf))),
-    # ==== Certificates: the signed part. What is signed of a certificate.
-    # Makes an empty record.
+    # Another name of `ASN1_FreeAnybuf`.
+    "ASN1_FreeExtension": _of(None, chain=P(Anybuf)),
+    # Another name of `ASN1_CreateSet`: starts a list.
+    "ASN1_CreateExtensions": _of(c_int32, element=P(Anybuf), out=P(P(Anybuf))),
+    # Another name of `ASN1_AddSet`: the element first, the chain second.
+    "ASN1_AddExtensions": _of(None, element=P(Anybuf), chain=P(Anybuf)),
+    # Another name of `ASN1_WriteSequence`.
+    "ASN1_WriteExtensions": _of(c_int32, chain=P(Anybuf), out=P(P(Anybuf))),
+    # Another name of `ASN1_ReadSequence`.
+    "ASN1_ReadExtensions": _of(c_int32, source=P(Anybuf), out=P(P(Anybuf))),
+    # Another name of `ASN1_FreeAnybuf`.
+    "ASN1_FreeExtensions": _of(None, chain=P(Anybuf)),
+    # ==== Certificates
+    # Creates an empty record.
     "ASN1_CreateTBSCertificate": _of(c_int32, out=P(P(TBSCertificate))),
-    # Releases a record and its nodes.
+    "ASN1_CreateCertificate": _of(c_int32, out=P(P(Certificate))),
+    # Releases a record.
     "ASN1_FreeTBSCertificate": _of(None, record=P(TBSCertificate)),
+    "ASN1_FreeCertificate": _of(None, record=P(Certificate)),
     # Sets the version number, 2 for a version 3 certificate.
     "ASN1_TBSCertificateSetVersion": _of(c_int32, record=P(TBSCertificate), version=c_uint32),
     # Sets the serial number from a big-endian magnitude.
     "ASN1_TBSCertificateSetSerialNumber": _of(c_int32, record=P(TBSCertificate), bytes=c_char_p,
         length=c_uint32),
-    # Sets a field to a copy of a SEQUENCE TLV node, its own length rewritten in shortest form.
+    # Sets a field from a SEQUENCE.
     "ASN1_TBSCertificateSetSignatureAlg": _of(c_int32, record=P(TBSCertificate), value=P(Anybuf)),
     "ASN1_TBSCertificateSetIssuer": _of(c_int32, record=P(TBSCertificate), value=P(Anybuf)),
     "ASN1_TBSCertificateSetValidity": _of(c_int32, record=P(TBSCertificate), value=P(Anybuf)),
     "ASN1_TBSCertificateSetSubject": _of(c_int32, record=P(TBSCertificate), value=P(Anybuf)),
     "ASN1_TBSCertificateSetSubjectPublicKeyInfo": _of(c_int32, record=P(TBSCertificate),
         value=P(Anybuf)),
-    # Sets an optional identifier from a BIT STRING TLV node, under `[1]` or `[2]` IMPLICIT, as
-    # `ASN1_WriteImplicit` does.
+    # Sets an optional identifier, a BIT STRING, under `[1]` or `[2]` as `ASN1_WriteImplicit` does.
     "ASN1_TBSCertificateSetIssuerUniqueID": _of(c_int32, record=P(TBSCertificate), value=P(Anybuf)),
     "ASN1_TBSCertificateSetSubjectUniqueID": _of(c_int32, record=P(TBSCertificate),
         value=P(Anybuf)),
-    # Sets the extensions from the TLV node of their list, under `[3]` EXPLICIT.
+    # Sets the extensions under `[3]` EXPLICIT: the bytes of their list, which are not tested.
     "ASN1_TBSCertificateSetExtensions": _of(c_int32, record=P(TBSCertificate), value=P(Anybuf)),
-    # Makes the SEQUENCE TLV node of the record: seven required fields, then each optional one whose
-    # flag is 1.
+    # Makes the SEQUENCE of a record: seven required fields, then the optional ones.
     "ASN1_TBSCertificateWriteData": _of(c_int32, record=P(TBSCertificate), out=P(P(Anybuf))),
-    # Decodes a TBSCertificate TLV node into a new record.
+    # Decodes a TBSCertificate of seven elements or more.
     "ASN1_TBSCertificateDecode": _of(c_int32, source=P(Anybuf), out=P(P(TBSCertificate))),
-    # ==== Signed wholes. Certificates, revocation lists, PKCS#10 certification requests and PKCS#6
-    # ==== extended certificates have one shape: what is signed, the algorithm and the signature.
-    # Makes an empty record.
-    "ASN1_CreateCertificate": _of(c_int32, out=P(P(Certificate))),
-    "ASN1_CRL_CreateCertificateList": _of(c_int32, out=P(P(CertificateList))),
-    "ASN1_CreatePKCS10Request": _of(c_int32, out=P(P(PKCS10Request))),
-    "ASN1_PKCS6_CreateExtendedCertificate": _of(c_int32, out=P(P(ExtendedCertificate))),
-    # Releases a record and its nodes.
-    "ASN1_FreeCertificate": _of(None, record=P(Certificate)),
-    "ASN1_CRL_FreeCertificateList": _of(None, record=P(CertificateList)),
-    "ASN1_FreePKCS10Request": _of(None, record=P(PKCS10Request)),
-    "ASN1_PKCS6_FreeExtendedCertificate": _of(None, record=P(ExtendedCertificate)),
-    # Sets the first or the second field to a copy of a SEQUENCE TLV node, its own length rewritten
-    # in shortest form.
+    # Sets the signed part or the algorithm from a SEQUENCE.
     "ASN1_CertificateSetTbsCertificate": _of(c_int32, record=P(Certificate), value=P(Anybuf)),
     "ASN1_CertificateSetSignatureAlgorithm": _of(c_int32, record=P(Certificate), value=P(Anybuf)),
-    "ASN1_CRL_SetCertificateListTBSCertList": _of(c_int32, record=P(CertificateList),
-        value=P(Anybuf)),
-    "ASN1_CRL_SetCertificateListAlgorithmIdentifier": _of(c_int32, record=P(CertificateList),
-        value=P(Anybuf)),
-    "ASN1_PKCS10RequestSetCertificationRequestInfo": _of(c_int32, record=P(PKCS10Request),
-        value=P(Anybuf)),
-    "ASN1_PKCS10RequestSetAlgorithmIdentifier": _of(c_int32, record=P(PKCS10Request),
-        value=P(Anybuf)),
-    "ASN1_PKCS6_SetCertificateCertificateInfo": _of(c_int32, record=P(ExtendedCertificate),
-        value=P(Anybuf)),
-    "ASN1_PKCS6_SetCertificateSignatureAlgorithmIdentifier": _of(c_int32,
-        record=P(ExtendedCertificate), value=P(Anybuf)),
-    # Sets the signature to a copy of a BIT STRING TLV node, as `ASN1_WriteBitStringFromDERBytes`
-    # does.
+    # Sets the signature from a BIT STRING, as `ASN1_WriteBitStringFromDERBytes` does.
     "ASN1_CertificateSetSignatureValue": _of(c_int32, record=P(Certificate), value=P(Anybuf)),
-    "ASN1_CRL_SetCertificateListSignatureValue": _of(c_int32, record=P(CertificateList),
-        value=P(Anybuf)),
-    "ASN1_PKCS10RequestSetSignature": _of(c_int32, record=P(PKCS10Request), value=P(Anybuf)),
-    "ASN1_PKCS6_SetCertificateSignature": _of(c_int32, record=P(ExtendedCertificate),
-        value=P(Anybuf)),
-    # Makes the SEQUENCE TLV node of the three fields.
+    # Makes the SEQUENCE of a record, all three fields.
     "ASN1_CertificateWriteData": _of(c_int32, record=P(Certificate), out=P(P(Anybuf))),
-    "ASN1_CRL_CertificateListWriteData": _of(c_int32, record=P(CertificateList), out=P(P(Anybuf))),
-    "ASN1_PKCS10RequestWriteData": _of(c_int32, record=P(PKCS10Request), out=P(P(Anybuf))),
-    "ASN1_PKCS6_CertificateWriteData": _of(c_int32, record=P(ExtendedCertificate),
-        out=P(P(Anybuf))),
-    # Decodes DER of exactly `length` bytes into a new record.
+    # Decodes a certificate.
     "ASN1_CertificateDecode": _of(c_int32, bytes=c_char_p, length=c_uint32, out=P(P(Certificate))),
-    "ASN1_CRL_CertificateListDecode": _of(c_int32, bytes=c_char_p, length=c_uint32,
-        out=P(P(CertificateList))),
-    "ASN1_PKCS10RequestDecode": _of(c_int32, bytes=c_char_p, length=c_uint32,
-        out=P(P(PKCS10Request))),
-    "ASN1_PKCS6_CertificateDecode": _of(c_int32, bytes=c_char_p, length=c_uint32,
-        out=P(P(ExtendedCertificate))),
-    # ==== Certificate inspection. The subject of a decoded certificate, and a value in its
-    # ==== extensions.
-    # Makes an empty record and also stores it in `out`, which may be null.
+    # ==== Certificate inspection. Of the DER that is looked into, malformed parts are skipped.
+    # Makes an empty record, and stores it in `out` too unless that is null.
     "X509CertCreate": _of(P(X509Cert), out=P(P(X509Cert))),
     # Releases a record and all that its named fields hold.
     "X509CertFree": _of(None, record=P(X509Cert)),
@@ -613,105 +587,144 @@ FUNCTIONS = {
     # decoded `tbs`.
     "X509CertGetOIDValue": _of(c_int32, record=P(X509Cert), oidText=c_char_p, textLength=c_int32,
         value=P(c_uint8), valueLength=P(c_uint32)),
-    # ==== Revocation lists: an entry. One revoked certificate.
-    # Makes an empty record.
+    # ==== Revocation lists
+    # Creates an empty record.
     "ASN1_CRL_CreateRevokedCertificate": _of(c_int32, out=P(P(RevokedCertificate))),
-    # Releases a record and its nodes.
+    "ASN1_CRL_CreateTbsCertList": _of(c_int32, out=P(P(TbsCertList))),
+    "ASN1_CRL_CreateCertificateList": _of(c_int32, out=P(P(CertificateList))),
+    # Releases a record.
     "ASN1_CRL_FreeRevokedCertificate": _of(None, record=P(RevokedCertificate)),
-    # Sets the serial number to a copy of a TLV node of any type.
+    "ASN1_CRL_FreeTbsCertList": _of(None, record=P(TbsCertList)),
+    "ASN1_CRL_FreeCertificateList": _of(None, record=P(CertificateList)),
+    # Sets the serial number, of any type, as `ASN1_WriteExplicitFromDERData` does.
     "ASN1_CRL_SetRevokedCertificateCertificateSerialNumber": _of(c_int32,
         record=P(RevokedCertificate), value=P(Anybuf)),
-    # Sets the date from a time TLV node, read and written again in the form that it has.
+    # Sets the date from a time, read and written again in the form that it has.
     "ASN1_CRL_SetRevokedCertificateRevocationDate": _of(c_int32, record=P(RevokedCertificate),
         value=P(Anybuf)),
-    # Sets the extensions to a copy of a SEQUENCE TLV node, its own length rewritten in shortest
-    # form.
+    # Sets the extensions from a SEQUENCE.
     "ASN1_CRL_SetRevokedCertificateCrlEntryExtensions": _of(c_int32, record=P(RevokedCertificate),
         value=P(Anybuf)),
-    # Makes the SEQUENCE TLV node of the entry, with extensions when their flag is 1.
+    # Makes the SEQUENCE of a record, the extensions being optional.
     "ASN1_CRL_RevokedCertificateWriteData": _of(c_int32, record=P(RevokedCertificate),
         out=P(P(Anybuf))),
-    # Decodes the DER of one entry of exactly `length` bytes into a new record.
+    # Decodes an entry.
     "ASN1_CRL_RevokedCertificateDecode": _of(c_int32, bytes=c_char_p, length=c_uint32,
         out=P(P(RevokedCertificate))),
-    # ==== Revocation lists: the signed part. What is signed of a list.
-    # Makes an empty record.
-    "ASN1_CRL_CreateTbsCertList": _of(c_int32, out=P(P(TbsCertList))),
-    # Releases a record and its nodes.
-    "ASN1_CRL_FreeTbsCertList": _of(None, record=P(TbsCertList)),
-    # Sets the version number.
+    # Stores the version number.
     "ASN1_CRL_TbsCertListSetVersion": _of(c_int32, record=P(TbsCertList), version=c_uint32),
-    # Sets a field to a copy of a SEQUENCE TLV node, its own length rewritten in shortest form, and
-    # the flag of an optional one to 1.
+    # Sets a field from a SEQUENCE.
     "ASN1_CRL_TbsCertListSetSignatureAlgorithmIdentifier": _of(c_int32, record=P(TbsCertList),
         value=P(Anybuf)),
     "ASN1_CRL_TbsCertListSetIssuer": _of(c_int32, record=P(TbsCertList), value=P(Anybuf)),
     "ASN1_CRL_TbsCertListSetRevokedCertificates": _of(c_int32, record=P(TbsCertList),
         value=P(Anybuf)),
     "ASN1_CRL_TbsCertListSetCrlExtensions": _of(c_int32, record=P(TbsCertList), value=P(Anybuf)),
-    # Sets the time of this list, in seconds, and the form of both times: 1 for UTCTime, any other
+    # Stores the time of this list, in seconds, and the form of both times: 1 for UTCTime, any other
     # number for GeneralizedTime.
     "ASN1_CRL_TbsCertListSetThisUpdate": _of(c_int32, record=P(TbsCertList), time=c_int32,
         form=c_uint32),
-    # Sets the time of the next list, in seconds, and its flag.
+    # Stores the time of the next list, in seconds, and sets its flag.
     "ASN1_CRL_TbsCertListSetNextUpdate": _of(c_int32, record=P(TbsCertList), time=c_int32),
-    # Makes the SEQUENCE TLV node of the record: each optional field when its flag is 1, the
-    # extensions under `[0]` EXPLICIT.
+    # Makes the SEQUENCE of a record, the extensions under `[0]` EXPLICIT.
     "ASN1_CRL_TbsCertListWriteData": _of(c_int32, record=P(TbsCertList), out=P(P(Anybuf))),
-    # Decodes the DER of one signed part of exactly `length` bytes into a new record.
+    # Decodes a TbsCertList.
     "ASN1_CRL_TbsCertListDecode": _of(c_int32, bytes=c_char_p, length=c_uint32,
         out=P(P(TbsCertList))),
-    # ==== PKCS#10: the signed part. What is signed of a request.
-    # Makes an empty record.
+    # Sets the signed part or the algorithm from a SEQUENCE.
+    "ASN1_CRL_SetCertificateListTBSCertList": _of(c_int32, record=P(CertificateList),
+        value=P(Anybuf)),
+    "ASN1_CRL_SetCertificateListAlgorithmIdentifier": _of(c_int32, record=P(CertificateList),
+        value=P(Anybuf)),
+    # Sets the signature as `ASN1_CertificateSetSignatureValue` does.
+    "ASN1_CRL_SetCertificateListSignatureValue": _of(c_int32, record=P(CertificateList),
+        value=P(Anybuf)),
+    # Makes the SEQUENCE of a record, all three fields.
+    "ASN1_CRL_CertificateListWriteData": _of(c_int32, record=P(CertificateList), out=P(P(Anybuf))),
+    # Decodes a revocation list.
+    "ASN1_CRL_CertificateListDecode": _of(c_int32, bytes=c_char_p, length=c_uint32,
+        out=P(P(CertificateList))),
+    # ==== PKCS#10: certification requests
+    # Creates an empty record.
     "ASN1_CreatePKCS10": _of(c_int32, out=P(P(PKCS10))),
-    # Releases a record and its nodes.
+    "ASN1_CreatePKCS10Request": _of(c_int32, out=P(P(PKCS10Request))),
+    # Releases a record.
     "ASN1_FreePKCS10": _of(None, record=P(PKCS10)),
-    # Sets the version, 0 for version 1.
+    "ASN1_FreePKCS10Request": _of(None, record=P(PKCS10Request)),
+    # Sets the version number, 0 for version 1.
     "ASN1_PKCS10SetVersion": _of(c_int32, record=P(PKCS10), version=c_uint32),
-    # Sets a field to a copy of a SEQUENCE TLV node, its own length rewritten in shortest form.
+    # Sets a field from a SEQUENCE.
     "ASN1_PKCS10SetSubject": _of(c_int32, record=P(PKCS10), value=P(Anybuf)),
     "ASN1_PKCS10SetSubjectPublicKeyInfo": _of(c_int32, record=P(PKCS10), value=P(Anybuf)),
-    # Sets the attributes from a SET TLV node, under `[0]` IMPLICIT, as `ASN1_WriteImplicit` does.
+    # Sets the attributes, a SET, under `[0]` as `ASN1_WriteImplicit` does.
     "ASN1_PKCS10SetAttributes": _of(c_int32, record=P(PKCS10), value=P(Anybuf)),
-    # Makes the SEQUENCE TLV node of the four fields, all of them required.
+    # Makes the SEQUENCE of a record, all four fields.
     "ASN1_PKCS10WriteData": _of(c_int32, record=P(PKCS10), out=P(P(Anybuf))),
-    # Decodes the DER of one signed part of exactly `length` bytes into a new record.
+    # Decodes the signed part of a request.
     "ASN1_PKCS10Decode": _of(c_int32, bytes=c_char_p, length=c_uint32, out=P(P(PKCS10))),
-    # ==== PKCS#6: the signed part. What is signed of an extended certificate.
-    # Makes an empty record.
+    # Sets the signed part or the algorithm from a SEQUENCE.
+    "ASN1_PKCS10RequestSetCertificationRequestInfo": _of(c_int32, record=P(PKCS10Request),
+        value=P(Anybuf)),
+    "ASN1_PKCS10RequestSetAlgorithmIdentifier": _of(c_int32, record=P(PKCS10Request),
+        value=P(Anybuf)),
+    # Sets the signature as `ASN1_CertificateSetSignatureValue` does.
+    "ASN1_PKCS10RequestSetSignature": _of(c_int32, record=P(PKCS10Request), value=P(Anybuf)),
+    # Makes the SEQUENCE of a record, all three fields.
+    "ASN1_PKCS10RequestWriteData": _of(c_int32, record=P(PKCS10Request), out=P(P(Anybuf))),
+    # Decodes a request as `ASN1_CRL_CertificateListDecode` does a list.
+    "ASN1_PKCS10RequestDecode": _of(c_int32, bytes=c_char_p, length=c_uint32,
+        out=P(P(PKCS10Request))),
+    # ==== PKCS#6: extended certificates
+    # Creates an empty record.
     "ASN1_PKCS6_CreateExtendedCertificateInfo": _of(c_int32, out=P(P(ExtendedCertificateInfo))),
-    # Releases a record and its nodes.
+    "ASN1_PKCS6_CreateExtendedCertificate": _of(c_int32, out=P(P(ExtendedCertificate))),
+    # Releases a record.
     "ASN1_PKCS6_FreeExtendedCertificateInfo": _of(None, record=P(ExtendedCertificateInfo)),
-    # Sets the version number.
+    "ASN1_PKCS6_FreeExtendedCertificate": _of(None, record=P(ExtendedCertificate)),
+    # Stores the version number.
     "ASN1_PKCS6_SetCertificateInfoVersion": _of(c_int32, record=P(ExtendedCertificateInfo),
         version=c_uint32),
-    # Sets a field to a copy of a SEQUENCE or a SET TLV node, its own length rewritten in shortest
-    # form.
+    # Sets the certificate from a SEQUENCE, or the attributes from a SET.
     "ASN1_PKCS6_SetCertificateInfoX509": _of(c_int32, record=P(ExtendedCertificateInfo),
         value=P(Anybuf)),
     "ASN1_PKCS6_SetCertificateInfoAttributes": _of(c_int32, record=P(ExtendedCertificateInfo),
         value=P(Anybuf)),
-    # Makes the SEQUENCE TLV node of the three fields.
+    # Makes the SEQUENCE of a record, all three fields.
     "ASN1_PKCS6_CertificateInfoWriteData": _of(c_int32, record=P(ExtendedCertificateInfo),
         out=P(P(Anybuf))),
-    # Decodes the DER of one signed part of exactly `length` bytes into a new record.
+    # Decodes the signed part.
     "ASN1_PKCS6_CertificateInfoDecode": _of(c_int32, bytes=c_char_p, length=c_uint32,
         out=P(P(ExtendedCertificateInfo))),
-    # ==== PKCS#7: the ContentInfo around a message. A content behind the identifier of its type.
-    # Makes an empty record.
+    # Sets the signed part or the algorithm from a SEQUENCE.
+    "ASN1_PKCS6_SetCertificateCertificateInfo": _of(c_int32, record=P(ExtendedCertificate),
+        value=P(Anybuf)),
+    "ASN1_PKCS6_SetCertificateSignatureAlgorithmIdentifier": _of(c_int32,
+        record=P(ExtendedCertificate), value=P(Anybuf)),
+    # Sets the signature as `ASN1_CertificateSetSignatureValue` does.
+    "ASN1_PKCS6_SetCertificateSignature": _of(c_int32, record=P(ExtendedCertificate),
+        value=P(Anybuf)),
+    # Makes the SEQUENCE of a record, all three fields.
+    "ASN1_PKCS6_CertificateWriteData": _of(c_int32, record=P(ExtendedCertificate),
+        out=P(P(Anybuf))),
+    # Decodes an extended certificate as `ASN1_CRL_CertificateListDecode` does a list.
+    "ASN1_PKCS6_CertificateDecode": _of(c_int32, bytes=c_char_p, length=c_uint32,
+        out=P(P(ExtendedCertificate))),
+    # ==== PKCS#7: the ContentInfo of a message
+    # Creates an empty record.
     "ASN1_PKCS7_CreateContext": _of(c_int32, out=P(P(PKCS7Context))),
-    # Releases a record and its nodes.
+    # Releases a record.
     "ASN1_PKCS7_FreeContext": _of(None, record=P(PKCS7Context)),
-    # Sets the content type to a copy of a TLV node of any type.
+    # Sets the content type, of any type, as `ASN1_WriteExplicitFromDERData` does.
     "ASN1_PKCS7_SetContentType": _of(c_int32, record=P(PKCS7Context), value=P(Anybuf)),
-    # Sets the content from a node of any bytes, under `[0]` EXPLICIT.
+    # Sets the content from the bytes of a node of either form, under `[0]` EXPLICIT.
     "ASN1_PKCS7_SetContent": _of(c_int32, record=P(PKCS7Context), value=P(Anybuf)),
-    # Makes the SEQUENCE TLV node of the content type and of the content, if that is set.
+    # Makes the SEQUENCE of a record: the content type, and the content if it is set.
     "ASN1_PKCS7_WriteData": _of(c_int32, record=P(PKCS7Context), out=P(P(Anybuf))),
-    # Decodes the DER of one ContentInfo of exactly `length` bytes into a new record.
+    # Decodes a ContentInfo.
     "ASN1_PKCS7_Decode": _of(c_int32, bytes=c_char_p, length=c_uint32, out=P(P(PKCS7Context))),
-    # ==== RSA keys. A null argument gives -1. Nothing is allocated unless record and DER overlap;
-    # ==== then a lack of memory gives -1 and changes nothing.
+    # ==== RSA keys. Keys of at most 2048 bits; `ASN1_SetRSAPublicKey` and `ASN1_GetRSAPublicKey`
+    # ==== take public keys of any size. `VELKORD_FAILURE` also stands for a null argument and, when
+    # ==== record and DER overlap, for a lack of memory; then nothing has changed.
     # Writes the DER of a key to `der` and its size to `derLen`: RSAPublicKey, at most 526 bytes, or
     # RSAPrivateKey of PKCS#1, at most 1450.
     "ZantEncodePublicKey": _of(c_int32, key=P(ZantPublicKey), der=P(c_uint8), derLen=P(c_uint32)),
@@ -719,7 +732,9 @@ FUNCTIONS = {
     # Fills a record from DER of exactly `derLen` bytes.
     "ZantDecodePublicKey": _of(c_int32, key=P(ZantPublicKey), der=c_char_p, derLen=c_int32),
     "ZantDecodePrivateKey": _of(c_int32, key=P(ZantPrivateKey), der=c_char_p, derLen=c_int32),
-    # ==== Keys of elliptic curves. Nothing is allocated.
+    # ==== Keys of elliptic curves. Keys of 256 bits. Returns `VELKORD_OK`, or `VELKORD_FAILURE` for
+    # ==== all that is refused: a null argument, malformed DER, a missing element. Nothing has
+    # ==== changed then. Nothing is allocated.
     # Writes the 312 bytes of a SubjectPublicKeyInfo to `der` and 312 to `derLen`.
     "ASN1_EccPubkey2Der": _of(c_int32, key=P(EccPubkey), der=P(c_uint8), derLen=P(c_uint32)),
     # Fills a record from the DER of a SubjectPublicKeyInfo of exactly `derLen` bytes, whatever its
@@ -728,28 +743,27 @@ FUNCTIONS = {
     # Fills a record from the DER of an ECPrivateKey in a PrivateKeyInfo of PKCS#8, of exactly
     # `derLen` bytes, whatever its algorithm; `bits` becomes 256.
     "ASN1_Der2EccPrikey": _of(c_int32, der=c_char_p, derLen=c_uint32, key=P(EccPrikey)),
-    # ==== SM2. The result is always 0. What cannot be done, an argument being null or the DER
-    # ==== malformed, leaves all out arguments alone: preset the lengths to 0. Nothing is allocated
-    # ==== unless buffers overlap; a lack of memory then counts as what cannot be done.
+    # ==== SM2. The result is always `VELKORD_OK`. What cannot be done, an argument being null or
+    # ==== the DER malformed, leaves all out arguments alone: preset the lengths to 0. Nothing is
+    # ==== allocated unless buffers overlap; a lack of memory then counts as what cannot be done.
     # Writes the SEQUENCE of two positive INTEGERs to `der`, which needs room for both numbers and
     # 20 bytes more.
     "ASN1_SM2_SM2SignatureEncode": _of(c_int32, r=c_char_p, rLen=c_uint32, s=c_char_p,
         sLen=c_uint32, der=P(c_uint8), derLen=P(c_uint32)),
-    # Gives the two numbers of a signature, each without the zero byte that keeps it positive.
+    # Copies the two numbers of a signature, each without the zero byte that keeps it positive.
     "ASN1_SM2_SM2SignatureDecode": _of(c_int32, r=P(c_uint8), rLen=P(c_uint32), s=P(c_uint8),
         sLen=P(c_uint32), der=c_char_p, derLen=c_uint32),
-    # Writes a private value as an INTEGER to `der`, which needs room for the value and 7 bytes
-    # more.
+    # Writes a private value as an INTEGER to `der`, 7 bytes more at most.
     "ASN1_SM2_PrikeyEncode": _of(c_int32, value=c_char_p, valueLen=c_uint32, der=P(c_uint8),
         derLen=P(c_uint32)),
-    # Gives a private value without the zero byte that keeps it positive.
+    # Copies a private value without the zero byte that keeps it positive.
     "ASN1_SM2_PrikeyDecode": _of(c_int32, value=P(c_uint8), valueLen=P(c_uint32), der=c_char_p,
         derLen=c_uint32),
-    # Writes a public point as a BIT STRING to `der`: 0x04, X and Y, together at most 256 bytes, and
-    # 5 bytes at most in front.
+    # Writes a public point as a BIT STRING to `der`: at most 5 bytes, then 0x04, X and Y, together
+    # at most 256.
     "ASN1_SM2_PubkeyEncode": _of(c_int32, x=c_char_p, xLen=c_uint32, y=c_char_p, yLen=c_uint32,
         der=P(c_uint8), derLen=P(c_uint32)),
-    # Gives the two halves, of equal length, of what follows the first byte of a public point; an
+    # Copies the two halves, of equal length, of what follows the first byte of a public point; an
     # odd last byte is left out.
     "ASN1_SM2_PubkeyDecode": _of(c_int32, x=P(c_uint8), xLen=P(c_uint32), y=P(c_uint8),
         yLen=P(c_uint32), der=c_char_p, derLen=c_uint32),
@@ -773,7 +787,7 @@ FUNCTIONS = {
     "uniToUTF8": _of(c_int32, out=P(c_uint8), outSize=c_int32, code=c_uint32),
     # Reads one UTF-8 form from at most `inLen` bytes; `code` is written on success only.
     "utf8ToUni": _of(c_int32, in_=c_char_p, inLen=c_int32, code=P(c_uint32)),
-    # Returns the code point of a GB code.
+    # Returns the code point of a GB code, or for one that is not assigned that of a row near it.
     "ctouni": _of(c_uint32, gb=c_uint32),
     # Returns the GB code of a code point, or 0 when it has none.
     "unitoc": _of(c_uint32, code=c_uint32),
@@ -781,7 +795,7 @@ FUNCTIONS = {
     "zhToWc": _of(c_uint32, in_=c_char_p, n=c_uint32),
     # Writes the two bytes of a GB code to `out` and 2 to `outLen`.
     "wcToZh": _of(None, out=P(c_uint8), outLen=P(c_uint32), code=c_int32),
-    # Turns GB2312 text, two bytes a character, into UTF-8; an odd last byte is ignored.
+    # Turns GB2312 text into UTF-8, 3 bytes at most for each pair of bytes.
     "zhsToUtf8s": _of(None, in_=c_char_p, inLen=c_int32, out=P(c_uint8), outLen=P(c_uint32)),
     # Turns UTF-8 text into GB2312.
     "utf8sToZhs": _of(None, in_=c_char_p, inLen=c_uint32, out=P(c_uint8), outLen=P(c_uint32)),
