@@ -4,7 +4,7 @@ set -euo pipefail
 
 total=0
 size=0
-# Each section has a line with its number, name and size, and a line with its flags behind it.
+# Each section has a line with its number, name and size, then a line with its flags.
 while read -r first second third _; do
   if [[ $first =~ ^[0-9]+$ ]]; then
     size=$((16#$third))
