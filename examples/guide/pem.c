@@ -1,8 +1,8 @@
 // PEM and Base64 text.
-#include "guide_tools.h"
+#include "tools.h"
 
 // [find_block]
-// Finds the first PEM block in a zero-terminated text and gives its size, or null.
+// Finds the first PEM block in a zero-terminated text and stores its size. Returns null for none.
 static const char* FindBlock(const char* text, uint32_t* length) {
   const char* begin = strstr(text, "-----BEGIN ");
   if (begin == NULL) return NULL;
@@ -33,21 +33,19 @@ static void ShowBlocks(void) {
   while (block != NULL) {
     uint8_t* der = (uint8_t*)malloc((size_t)length / 4 * 3 + 1);
     uint32_t derLength = 0;
-    Require(der != NULL, "memory for a block");
-    Check(PEM2DER_data_format(block, length, der, &derLength), "decode a block");
+    REQUIRE(der != NULL);
+    CHECK(PEM2DER_data_format(block, length, der, &derLength));
 
-    Anybuf* node = NULL;
+    Anybuf* node = Element(der, derLength);
     uint32_t number = 0;
-    Check(ASN1_WriteExplicitFromDERData(der, derLength, &node), "hold the element");
-    Check(ASN1_ReadInteger(node, &number), "read the number");
+    CHECK(ASN1_ReadInteger(node, &number));
     sum += number;
     ASN1_FreeAnybuf(node);
     free(der);
     block = FindBlock(block + length, &length);
   }
   // [/read_blocks]
-  printf("  the numbers add up to %u\n", (unsigned)sum);
-  Require(sum == 11, "sum");
+  REQUIRE(sum == 11);
 }
 
 static void ShowBase64(void) {
@@ -55,12 +53,12 @@ static void ShowBase64(void) {
   // [base64]
   const uint8_t bytes[] = {0x02, 0x01, 0x05, 0xFF};
   char text[(sizeof bytes + 2) / 3 * 4 + 1];
-  base64_encode(bytes, sizeof bytes, text);
-  Require(strcmp(text, "AgEF/w==") == 0, "Base64");
+  CHECK(base64_encode(bytes, sizeof bytes, text));
+  REQUIRE(strcmp(text, "AgEF/w==") == 0);
 
   uint8_t again[sizeof text / 4 * 3];
   uint32_t length = 0;
-  base64_decode(text, again, &length);
+  CHECK(base64_decode(text, again, &length));
   ExpectBytes(again, length, "02 01 05 FF");
   // [/base64]
 }
