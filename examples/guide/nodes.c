@@ -19,7 +19,7 @@ static void ShowForms(void) {
   CHECK(ASN1_WriteOctetString(content, &octets));
   Expect(octets, 4, "04 03 61 62 63");
 
-  // A TLV node where a content node is wanted gives an element inside an element.
+  // A TLV node where a content node is wanted puts an element inside an element.
   Anybuf* nested = NULL;
   CHECK(ASN1_WriteOctetString(element, &nested));
   Expect(nested, 4, "04 05 0C 03 61 62 63");
@@ -54,7 +54,7 @@ static void ShowTags(void) {
   CHECK(ASN1_WriteExplicit(pair, 3, &tagged));
   Expect(tagged, 0xA3, "A3 09 30 07 02 01 05 02 02 01 2C");
 
-  // What stands inside is an element, but the node keeps the tag that came off.
+  // The content is an element, but the node keeps the tag that came off.
   Anybuf* inner = NULL;
   uint32_t tag = 0;
   CHECK(ASN1_ReadExplicit(tagged, &inner, &tag));
