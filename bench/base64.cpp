@@ -1,88 +1,105 @@
-// Base64 of plain buffers.
-#include <cstring>
+// Base64 of plain buffers, and the PEM text of a certificate.
 #include <memory>
 
 #if defined(VELKORD_BENCH_OPENSSL)
 #include <openssl/evp.h>
+#include <openssl/pem.h>
 #endif
 
 #include "Velkord.h"
 #include "cases.h"
-#include "contender.h"
 #include "inputs.h"
 
 namespace bench {
 
 namespace {
 
-// The bytes, their text, and the buffers that a contender writes.
-struct Sample {
-  explicit Sample(size_t bytes)
-      : size(static_cast<uint32_t>(bytes)),
-        characters((bytes + 2) / 3 * 4),
-        in(bytes, PageBuffer::kSource),
-        text(characters + 1, PageBuffer::kSource),
-        encoded(characters + 1, PageBuffer::kDestination),
-        decoded(bytes + 3, PageBuffer::kDestination) {
-    std::memcpy(in.Bytes(), RandomBytes(bytes).data(), bytes);
-    base64_encode(in.Bytes(), size, text.Text());
-  }
-
-  uint32_t size;
-  size_t characters;
-  PageBuffer in;
-  PageBuffer text;
-  PageBuffer encoded;
-  PageBuffer decoded;
-};
-
-void AddSize(const std::string& name, size_t bytes) {
-  const auto sample = std::make_shared<Sample>(bytes);
-  const auto items = static_cast<double>(bytes);
+void AddBase64(const std::string& name, uint32_t size) {
   const std::string encode = "base64_encode_" + name;
   const std::string decode = "base64_decode_" + name;
+  const PageBuffer bytes(Random(1).Bytes(size));
+  std::string encoded((size + 2) / 3 * 4, '\0');
+  base64_encode(bytes.Data(), size, encoded.data());
+  const PageBuffer text(encoded);
+  const PageBuffer textOut(encoded.size() + 1);
+  const PageBuffer bytesOut(size_t{size} + 3);
 
-  Add(encode, "velkord", items, [sample] {
-    base64_encode(sample->in.Bytes(), sample->size, sample->encoded.Text());
-    benchmark::ClobberMemory();
+  Add(encode, "velkord", size, [=] { base64_encode(bytes.Data(), size, textOut.Text()); });
+  Add(decode, "velkord", size, [=] {
+    uint32_t length = 0;
+    base64_decode(text.Text(), bytesOut.Data(), &length);
+    Require(length == size, "Base64 is decoded");
   });
-  Add(encode, "limit", items, [sample] {
-    std::memcpy(sample->encoded.Bytes(), sample->text.Bytes(), sample->characters);
-    benchmark::ClobberMemory();
-  });
-  Add(decode, "velkord", items, [sample] {
-    uint32_t length;
-    base64_decode(sample->text.Text(), sample->decoded.Bytes(), &length);
-    benchmark::DoNotOptimize(length);
-    benchmark::ClobberMemory();
-  });
-  Add(decode, "limit", items, [sample] {
-    std::memcpy(sample->decoded.Bytes(), sample->in.Bytes(), sample->size);
-    benchmark::ClobberMemory();
-  });
+  AddCopy(encode, size, text, textOut);
+  AddCopy(decode, size, bytes, bytesOut);
 
 #if defined(VELKORD_BENCH_OPENSSL)
-  const auto size = static_cast<int>(bytes);
-  const auto characters = static_cast<int>(sample->characters);
-  EVP_EncodeBlock(sample->encoded.Bytes(), sample->in.Bytes(), size);
-  Require(std::strcmp(sample->encoded.Text(), sample->text.Text()) == 0,
-          "OpenSSL encodes the same");
-  Add(encode, "openssl", items, [sample, size] {
-    EVP_EncodeBlock(sample->encoded.Bytes(), sample->in.Bytes(), size);
-    benchmark::ClobberMemory();
+  const auto octets = static_cast<int>(size);
+  const auto characters = static_cast<int>(text.Size());
+  EVP_EncodeBlock(textOut.Data(), bytes.Data(), octets);
+  Require(textOut.Text() == encoded, "OpenSSL encodes the same");
+  Add(encode, "openssl", size, [=] { EVP_EncodeBlock(textOut.Data(), bytes.Data(), octets); });
+  Add(decode, "openssl", size, [=] { EVP_DecodeBlock(bytesOut.Data(), text.Data(), characters); });
+#endif
+}
+
+#if defined(VELKORD_BENCH_OPENSSL)
+void AddOpensslPem(const PageBuffer& der, const PageBuffer& pem) {
+  Add("pem_to_der", "openssl", 1, [=] {
+    BIO* in = BIO_new_mem_buf(pem.Data(), static_cast<int>(pem.Size()));
+    char* name = nullptr;
+    char* header = nullptr;
+    unsigned char* data = nullptr;
+    long length = 0;
+    Require(PEM_read_bio(in, &name, &header, &data, &length) == 1, "OpenSSL reads the PEM text");
+    OPENSSL_free(name);
+    OPENSSL_free(header);
+    OPENSSL_free(data);
+    BIO_free(in);
   });
-  Add(decode, "openssl", items, [sample, characters] {
-    EVP_DecodeBlock(sample->decoded.Bytes(), sample->text.Bytes(), characters);
-    benchmark::ClobberMemory();
+  // One writer for all rounds: only the text is made each time.
+  const std::shared_ptr<BIO> out(BIO_new(BIO_s_mem()), BIO_free);
+  Add("der_to_pem", "openssl", 1, [=] {
+    BIO_reset(out.get());
+    Require(PEM_write_bio(out.get(), "CERTIFICATE", "", der.Data(), long{der.Size()}) > 0,
+            "OpenSSL writes the PEM text");
   });
+}
+#endif
+
+void AddPem(const Der& certificate) {
+  const PageBuffer der(std::string(certificate.begin(), certificate.end()));
+  const PageBuffer derOut(2 * certificate.size());
+  const PageBuffer pemOut(2 * certificate.size());
+  const auto write = [=] {
+    uint32_t length = 0;
+    DER2PEM_data_format(der.Data(), der.Size(), pemOut.Text(), &length,
+                        "-----BEGIN CERTIFICATE-----", "-----END CERTIFICATE-----");
+    Require(length > der.Size(), "the PEM text is written");
+    return length;
+  };
+  const uint32_t pemSize = write();
+  const PageBuffer pem(std::string(pemOut.Text(), pemSize));
+
+  Add("pem_to_der", "velkord", 1, [=] {
+    uint32_t length = 0;
+    PEM2DER_data_format(pem.Text(), pem.Size(), derOut.Data(), &length);
+    Require(length == der.Size(), "the PEM text is read");
+  });
+  Add("der_to_pem", "velkord", 1, write);
+  AddCopy("pem_to_der", 1, der, derOut);
+  AddCopy("der_to_pem", 1, pem, pemOut);
+#if defined(VELKORD_BENCH_OPENSSL)
+  AddOpensslPem(der, pem);
 #endif
 }
 
 }  // namespace
 
-void AddBase64() {
-  AddSize("1536", 1536);
-  AddSize("1m", size_t{1} << 20);
+void AddBase64AndPem() {
+  AddBase64("1536", 1536);
+  AddBase64("1m", 1U << 20);
+  AddPem(MedianCertificate());
 }
 
 }  // namespace bench

@@ -2,7 +2,6 @@
 #include <algorithm>
 #include <iterator>
 #include <memory>
-#include <utility>
 
 #if defined(VELKORD_BENCH_OPENSSL)
 #include <openssl/x509.h>
@@ -10,51 +9,45 @@
 #if defined(VELKORD_BENCH_MBEDTLS)
 #include <mbedtls/x509_crt.h>
 #endif
-#if defined(VELKORD_BENCH_GNUTLS)
-#include <gnutls/gnutls.h>
-#include <gnutls/x509.h>
-#endif
 
-#include "Velkord.h"
 #include "cases.h"
-#include "contender.h"
 #include "inputs.h"
 #include "limit.h"
+#include "velkord.hpp"
 
 namespace bench {
 
 namespace {
 
-using Der = std::vector<uint8_t>;
-// Here the plain name is that of an input.
-using Whole = ::Certificate;
+using velkord::Make;
 
-struct Decoded {
-  Whole* whole = nullptr;
+struct Records {
+  Certificate* whole = nullptr;
   TBSCertificate* tbs = nullptr;
 };
 
-using WholeShape =
-    Shape<Whole, &Whole::tbsCertificate, &Whole::signatureAlgorithm, &Whole::signatureValue>;
-using TbsShape = Shape<TBSCertificate, &TBSCertificate::versionNode, &TBSCertificate::serialNumber,
-                       &TBSCertificate::signature, &TBSCertificate::issuer,
-                       &TBSCertificate::validity, &TBSCertificate::subject,
-                       &TBSCertificate::subjectPublicKeyInfo, &TBSCertificate::issuerUniqueID,
-                       &TBSCertificate::subjectUniqueID, &TBSCertificate::extensions>;
+// What the library decodes. Held without handles, which would be timed too.
+struct Decoded : Records {
+  explicit Decoded(const Der& der) {
+    Require(ASN1_CertificateDecode(der.data(), velkord::Length(der), &whole) == VELKORD_OK &&
+                ASN1_TBSCertificateDecode(whole->tbsCertificate, &tbs) == VELKORD_OK,
+            "a certificate is decoded");
+  }
+  Decoded(const Decoded&) = delete;
+  Decoded& operator=(const Decoded&) = delete;
+  ~Decoded() {
+    ASN1_FreeTBSCertificate(tbs);
+    ASN1_FreeCertificate(whole);
+  }
+};
 
-bool DecodeVelkord(const Der& der, Decoded& out) {
-  return ASN1_CertificateDecode(der.data(), static_cast<uint32_t>(der.size()), &out.whole) ==
-             VELKORD_OK &&
-         ASN1_TBSCertificateDecode(out.whole->tbsCertificate, &out.tbs) == VELKORD_OK;
-}
-
-void FreeVelkord(const Decoded& decoded) {
-  ASN1_FreeTBSCertificate(decoded.tbs);
-  ASN1_FreeCertificate(decoded.whole);
+bool DecodeVelkord(const Der& der) {
+  const Decoded decoded(der);
+  return true;
 }
 
 // Takes a certificate of version 3 with extensions and without the identifiers that nobody uses.
-bool DecodeLimit(const Der& der, Decoded& out) {
+bool DecodeLimit(const Der& der, Records& out) {
   std::array<Element, 1> whole;
   std::array<Element, 3> parts;
   std::array<Element, 8> fields;
@@ -65,7 +58,7 @@ bool DecodeLimit(const Der& der, Decoded& out) {
       !std::all_of(fields.begin() + 2, fields.begin() + 7, IsFilledSequence)) {
     return false;
   }
-  out.whole = Allocate<Whole>();
+  out.whole = Allocate<Certificate>();
   *out.whole = {.tbsCertificate = CopyElement(parts[0]),
                 .signatureAlgorithm = CopyElement(parts[1]),
                 .signatureValue = CopyElement(parts[2])};
@@ -89,25 +82,57 @@ bool DecodeLimit(const Der& der, Decoded& out) {
   return true;
 }
 
-void FreeLimit(const Decoded& decoded) {
-  TbsShape::Release(decoded.tbs);
-  WholeShape::Release(decoded.whole);
+std::array<Anybuf*, 11> Nodes(const Records& records) {
+  const Certificate& whole = *records.whole;
+  const TBSCertificate& tbs = *records.tbs;
+  return {whole.tbsCertificate, whole.signatureAlgorithm,
+          whole.signatureValue, tbs.versionNode,
+          tbs.serialNumber,     tbs.signature,
+          tbs.issuer,           tbs.validity,
+          tbs.subject,          tbs.subjectPublicKeyInfo,
+          tbs.extensions};
 }
 
-template <auto kDecode, auto kFree>
-bool DecodeAndFree(const Der& der) {
-  Decoded decoded;
-  const bool accepted = kDecode(der, decoded);
-  kFree(decoded);
-  return accepted;
+void FreeLimit(const Records& decoded) {
+  std::ranges::for_each(Nodes(decoded), ReleaseChain);
+  std::free(decoded.tbs);
+  std::free(decoded.whole);
+}
+
+bool DecodeAndFreeLimit(const Der& der) {
+  Records decoded;
+  if (!DecodeLimit(der, decoded)) return false;
+  FreeLimit(decoded);
+  return true;
+}
+
+void RequireLimitEqual(const Der& der) {
+  const Decoded velkord(der);
+  Records limit;
+  Require(DecodeLimit(der, limit) && std::ranges::equal(Nodes(velkord), Nodes(limit), SameChains),
+          "the limit decodes a certificate as the library does");
+  FreeLimit(limit);
 }
 
 #if defined(VELKORD_BENCH_OPENSSL)
-bool DecodeOpenssl(const Der& der) {
+using OpensslCertificate = std::unique_ptr<X509, decltype(&X509_free)>;
+
+OpensslCertificate ReadOpenssl(const Der& der) {
   const unsigned char* at = der.data();
-  X509* certificate = d2i_X509(nullptr, &at, static_cast<long>(der.size()));
-  X509_free(certificate);
-  return certificate != nullptr;
+  return {d2i_X509(nullptr, &at, static_cast<long>(der.size())), X509_free};
+}
+
+bool DecodeOpenssl(const Der& der) { return ReadOpenssl(der) != nullptr; }
+
+void AddOpensslWrite(const Der& certificate) {
+  const std::shared_ptr<X509> decoded = ReadOpenssl(certificate);
+  // Afterwards the signed part counts as changed, and its old bytes are not copied any more.
+  Require(i2d_re_X509_tbs(decoded.get(), nullptr) > 0, "OpenSSL writes the signed part");
+  Add("certificate_write", "openssl", 1, [decoded, size = certificate.size()] {
+    unsigned char* bytes = nullptr;
+    Require(i2d_X509(decoded.get(), &bytes) == static_cast<int>(size), "OpenSSL writes");
+    OPENSSL_free(bytes);
+  });
 }
 #endif
 
@@ -121,19 +146,6 @@ bool DecodeMbedtls(const Der& der) {
 }
 #endif
 
-#if defined(VELKORD_BENCH_GNUTLS)
-bool DecodeGnutls(const Der& der) {
-  gnutls_datum_t datum;
-  datum.data = const_cast<uint8_t*>(der.data());
-  datum.size = static_cast<unsigned>(der.size());
-  gnutls_x509_crt_t certificate;
-  Require(gnutls_x509_crt_init(&certificate) == 0, "GnuTLS makes a certificate");
-  const int code = gnutls_x509_crt_import(certificate, &datum, GNUTLS_X509_FMT_DER);
-  gnutls_x509_crt_deinit(certificate);
-  return code == 0;
-}
-#endif
-
 struct Decoder {
   const char* contender;
   // Decodes and releases; whether the certificate was accepted.
@@ -141,129 +153,54 @@ struct Decoder {
 };
 
 constexpr Decoder kDecoders[] = {
-    {"velkord", DecodeAndFree<DecodeVelkord, FreeVelkord>},
-    {"limit", DecodeAndFree<DecodeLimit, FreeLimit>},
+    {"velkord", DecodeVelkord},
+    {"limit", DecodeAndFreeLimit},
 #if defined(VELKORD_BENCH_OPENSSL)
     {"openssl", DecodeOpenssl},
 #endif
 #if defined(VELKORD_BENCH_MBEDTLS)
     {"mbedtls", DecodeMbedtls},
 #endif
-#if defined(VELKORD_BENCH_GNUTLS)
-    {"gnutls", DecodeGnutls},
-#endif
 };
 
-bool AllAccept(const Der& der) {
-  return std::ranges::all_of(kDecoders, [&](const Decoder& decoder) { return decoder.run(der); });
-}
-
-void RequireLimitEqual(const Der& der) {
-  Decoded velkord;
-  Decoded limit;
-  Require(DecodeVelkord(der, velkord) && DecodeLimit(der, limit) &&
-              WholeShape::Same(*velkord.whole, *limit.whole) &&
-              TbsShape::Same(*velkord.tbs, *limit.tbs),
-          "the limit decodes a certificate as the library does");
-  FreeVelkord(velkord);
-  FreeLimit(limit);
+// The certificates of the bundle that every contender accepts.
+std::vector<Der> AcceptedCertificates() {
+  std::vector<Der> accepted;
+  std::ranges::copy_if(BundledCertificates(), std::back_inserter(accepted), [](const Der& der) {
+    return std::ranges::all_of(kDecoders, [&](const Decoder& decoder) { return decoder.run(der); });
+  });
+  return accepted;
 }
 
 void AddDecode(const Der& certificate) {
-  std::vector<Der> bundle;
-  std::ranges::copy_if(Certificates(), std::back_inserter(bundle), AllAccept);
-  std::ranges::for_each(bundle, RequireLimitEqual);
-  const auto shared = std::make_shared<const std::vector<Der>>(std::move(bundle));
+  static const std::vector<Der> kBundle = AcceptedCertificates();
+  std::ranges::for_each(kBundle, RequireLimitEqual);
+  RequireLimitEqual(certificate);
   for (const Decoder& decoder : kDecoders) {
     Add("certificate_decode", decoder.contender, 1, [&certificate, run = decoder.run] {
       Require(run(certificate), "a certificate is decoded");
     });
-    Add("certificate_decode_bundle", decoder.contender, static_cast<double>(shared->size()),
-        [shared, run = decoder.run] {
-          for (const Der& der : *shared) Require(run(der), "a certificate is decoded");
-        });
+    Add("certificate_decode_bundle", decoder.contender, kBundle.size(), [run = decoder.run] {
+      for (const Der& der : kBundle) Require(run(der), "a certificate is decoded");
+    });
   }
 }
 
-struct Written {
-  Anybuf* tbs;
-  Anybuf* whole;
-};
-
-Written WriteVelkord(const Decoded& decoded) {
-  Written written = {};
-  Require(ASN1_TBSCertificateWriteData(decoded.tbs, &written.tbs) == VELKORD_OK &&
-              ASN1_CertificateWriteData(decoded.whole, &written.whole) == VELKORD_OK,
-          "a certificate is written");
-  return written;
-}
-
-Written WriteLimit(const Decoded& decoded) {
-  const TBSCertificate& tbs = *decoded.tbs;
-  const Whole& whole = *decoded.whole;
-  return {.tbs = JoinSequence<2>([&](auto visit) {
-            visit(*tbs.versionNode);
-            visit(*tbs.serialNumber);
-            visit(*tbs.signature);
-            visit(*tbs.issuer);
-            visit(*tbs.validity);
-            visit(*tbs.subject);
-            visit(*tbs.subjectPublicKeyInfo);
-            visit(*tbs.extensions);
-          }),
-          .whole = JoinSequence<2>([&](auto visit) {
-            visit(*whole.tbsCertificate);
-            visit(*whole.signatureAlgorithm);
-            visit(*whole.signatureValue);
-          })};
-}
-
-template <auto kRelease>
-void Free(const Written& written) {
-  kRelease(written.tbs);
-  kRelease(written.whole);
-}
-
 void AddWrite(const Der& certificate) {
-  const std::shared_ptr<Decoded> decoded(new Decoded, [](Decoded* records) {
-    FreeVelkord(*records);
-    delete records;
-  });
-  Require(DecodeVelkord(certificate, *decoded), "a certificate is decoded");
-  const Written velkord = WriteVelkord(*decoded);
-  const Written limit = WriteLimit(*decoded);
-  Require(SameChains(velkord.tbs, limit.tbs) && SameChains(velkord.whole, limit.whole) &&
-              std::ranges::equal(Bytes(velkord.whole->data, velkord.whole->dataLen), certificate),
+  const auto decoded = std::make_shared<const Decoded>(certificate);
+  const auto write = [decoded] {
+    const auto tbs = Make("write a signed part", ASN1_TBSCertificateWriteData, decoded->tbs);
+    return Make("write a certificate", ASN1_CertificateWriteData, decoded->whole);
+  };
+  Require(std::ranges::equal(velkord::View(*write()), certificate),
           "the certificate is written as it was");
-  Free<ASN1_FreeAnybuf>(velkord);
-  Free<ReleaseChain>(limit);
-
-  Add("certificate_write", "velkord", 1,
-      [decoded] { Free<ASN1_FreeAnybuf>(WriteVelkord(*decoded)); });
-  Add("certificate_write", "limit", 1, [decoded] { Free<ReleaseChain>(WriteLimit(*decoded)); });
+  Add("certificate_write", "velkord", 1, write);
 }
-
-#if defined(VELKORD_BENCH_OPENSSL)
-void AddOpensslWrite(const Der& certificate) {
-  const unsigned char* at = certificate.data();
-  const std::shared_ptr<X509> decoded(d2i_X509(nullptr, &at, static_cast<long>(certificate.size())),
-                                      X509_free);
-  // Afterwards the signed part counts as changed, and its old bytes are not copied any more.
-  Require(i2d_re_X509_tbs(decoded.get(), nullptr) > 0, "OpenSSL writes the signed part");
-  Add("certificate_write", "openssl", 1, [decoded, size = certificate.size()] {
-    unsigned char* bytes = nullptr;
-    Require(i2d_X509(decoded.get(), &bytes) == static_cast<int>(size), "OpenSSL writes");
-    OPENSSL_free(bytes);
-  });
-}
-#endif
 
 }  // namespace
 
 void AddCertificates() {
-  const Der& certificate = Certificate();
-  Require(AllAccept(certificate), "every contender accepts the certificate");
-  RequireLimitEqual(certificate);
+  const Der& certificate = MedianCertificate();
   AddDecode(certificate);
   AddWrite(certificate);
 #if defined(VELKORD_BENCH_OPENSSL)

@@ -1,6 +1,4 @@
 // All cases, of which the flags of Google Benchmark select some and say how they are run.
-#include <benchmark/benchmark.h>
-
 #include "cases.h"
 
 int main(int argc, char** argv) {
@@ -8,8 +6,7 @@ int main(int argc, char** argv) {
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
   bench::AddCertificates();
   bench::AddLists();
-  bench::AddBase64();
-  bench::AddPem();
+  bench::AddBase64AndPem();
   bench::AddCharacterSets();
   bench::AddValues();
   benchmark::RunSpecifiedBenchmarks();
