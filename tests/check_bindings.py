@@ -65,7 +65,7 @@ def check_names():
 def check_layout():
     # A record, a field or nothing, and its offset or the record's size, on 32 and on 64 bits.
     pins = re.findall(r"^VELKORD_\w+\((\w+)(?:, ([a-zA-Z]\w*))?, (\d+), (\d+)\);$",
-                      (ROOT / "include/record_layout.cpp").read_text(), re.MULTILINE)
+                      (ROOT / "der/record_layout.cpp").read_text(), re.MULTILINE)
     column = 3 if ctypes.sizeof(ctypes.c_void_p) == 8 else 2
     wanted = sorted(f"{pin[0]}.{pin[1]} {pin[column]}" for pin in pins)
 
