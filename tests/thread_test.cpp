@@ -8,19 +8,8 @@ namespace {
 
 constexpr size_t kThreads = 8;
 
-// Every thread runs all cases, each beginning at another one.
-void RunOnThreads(const std::vector<Case>& cases) {
-  std::vector<std::thread> threads;
-  for (size_t number = 0; number < kThreads; ++number) {
-    threads.emplace_back([&cases, number] {
-      const size_t first = number * cases.size() / kThreads;
-      for (size_t at = 0; at < cases.size(); ++at) RunCase(cases[(first + at) % cases.size()]);
-    });
-  }
-  for (std::thread& thread : threads) thread.join();
-}
-
-// The zone belongs to the process, so it changes between the runs alone.
+// Every thread runs all cases, each beginning at another one. The zone belongs to the process, so
+// it changes between the runs alone.
 TEST(Threads, CallAllFamiliesOnObjectsOfTheirOwn) {
   std::map<std::string, std::vector<Case>> casesOfZone;
   for (const auto& file : CaseFiles()) {
@@ -28,7 +17,13 @@ TEST(Threads, CallAllFamiliesOnObjectsOfTheirOwn) {
   }
   for (const auto& [zone, cases] : casesOfZone) {
     SetZone(zone);
-    RunOnThreads(cases);
+    std::vector<std::jthread> threads;
+    for (size_t number = 0; number < kThreads; ++number) {
+      threads.emplace_back([&cases = cases, number] {
+        const size_t first = number * cases.size() / kThreads;
+        for (size_t at = 0; at < cases.size(); ++at) RunCase(cases[(first + at) % cases.size()]);
+      });
+    }
   }
 }
 

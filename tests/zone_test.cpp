@@ -20,18 +20,11 @@ int32_t FindChange(int32_t from, int32_t to) {
   return to;
 }
 
-std::string Write(int32_t time) {
-  Anybuf* node = nullptr;
-  EXPECT_EQ(ASN1_WriteGeneralizedTime(&time, &node), 0);
-  const NodePtr owned(node);
-  return {node->data + 2, node->data + node->dataLen};
-}
+std::string Write(int32_t time) { return Made(ASN1_WriteGeneralizedTime, &time); }
 
 int32_t Read(const std::string& text) {
-  std::string element = "\x18\x0F" + text;
-  const Anybuf node = {reinterpret_cast<uint8_t*>(element.data()), 17, 0, 2, 24, nullptr, nullptr};
   int32_t time = -1;
-  EXPECT_EQ(ASN1_ReadGeneralizedTime(&node, &time), 0) << text;
+  EXPECT_EQ(ASN1_ReadGeneralizedTime(ToNode(text).get(), &time), 0) << text;
   return time;
 }
 
@@ -49,24 +42,24 @@ void ExpectReadBack(int32_t time) {
 std::string TextByOffset(std::time_t time, long offset) {
   time += offset;
   std::tm fields{};
-  char text[16];
-  std::strftime(text, sizeof text, "%Y%m%d%H%M%SZ", gmtime_r(&time, &fields));
+  char text[32];
+  std::strftime(text, sizeof text, "18 0F \"%Y%m%d%H%M%SZ\"", gmtime_r(&time, &fields));
   return text;
 }
 
-class Zones : public testing::TestWithParam<const char*> {};
+class Zones : public testing::TestWithParam<std::string> {};
 
 TEST_P(Zones, ReadWhatTheyWrite) {
   SetZone(GetParam());
-  if (*GetParam() == '\0') unsetenv("TZ");
+  if (GetParam().empty()) unsetenv("TZ");
   tzset();
   constexpr int32_t kStep = 1'000'003;
-  int changes = 0;
+  bool isFixed = true;
   for (int32_t time = 0; time <= INT32_MAX - kStep; time += kStep) {
     ExpectReadBack(time);
     const long before = Offset(time);
     if (Offset(time + kStep) == before) continue;
-    ++changes;
+    isFixed = false;
     const int32_t change = FindChange(time, time + kStep);
     for (const int32_t away : {0, 1, 1799, 1800, 3599, 3600, 7199, 7200, 86400}) {
       ExpectReadBack(change + away);
@@ -76,29 +69,14 @@ TEST_P(Zones, ReadWhatTheyWrite) {
       }
     }
   }
-  ExpectReadBack(INT32_MAX);
-  const bool isFixed = std::string(GetParam()).size() <= 3;
-  EXPECT_TRUE(isFixed || changes != 0);
-  SetZone("UTC0");
-}
-
-// The second 60 and the one behind it are two.
-TEST(LeapSeconds, AreSecondsOfTheirOwn) {
-  SetZone("right/UTC");
-  constexpr int32_t kLeapSecond = 1483228826;
-  const std::string text = Write(kLeapSecond);
-  SetZone("UTC0");
-  if (text != "20161231235960Z") GTEST_SKIP() << "no such zone here";
-  SetZone("right/UTC");
-  for (int32_t time = kLeapSecond - 1; time <= kLeapSecond + 1; ++time) {
-    EXPECT_EQ(Read(Write(time)), time);
-  }
-  SetZone("UTC0");
+  EXPECT_TRUE(!isFixed || GetParam().empty() || GetParam().ends_with("UTC"));
+  // Where leap seconds count, the second 60 and the one after it are two.
+  for (const int32_t time : {1483228825, 1483228826, 1483228827, INT32_MAX}) ExpectReadBack(time);
 }
 
 INSTANTIATE_TEST_SUITE_P(, Zones,
-                         testing::Values("", "UTC", "Asia/Shanghai", "America/New_York",
-                                         "Europe/Dublin", "Australia/Lord_Howe",
+                         testing::Values("", "UTC", "right/UTC", "Asia/Shanghai",
+                                         "America/New_York", "Europe/Dublin", "Australia/Lord_Howe",
                                          "Africa/Casablanca", "Pacific/Apia",
                                          "IST-1GMT0,M10.5.0,M3.5.0/1"));
 
