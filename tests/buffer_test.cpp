@@ -1,0 +1,117 @@
+// Callers' buffers: outputs that lie over their input, and sizes that none can have.
+#include "hex.h"
+
+namespace {
+
+// Calls a function on an input and says how many bytes it put at `out`.
+using Call = std::function<void(uint8_t* in, uint32_t size, uint8_t* out, uint32_t* given)>;
+
+// Bytes that tell their places, after a start.
+ByteVector Numbered(size_t size, const std::string& start = "") {
+  ByteVector bytes = FromHex(start);
+  for (size_t at = 0; at < size; ++at) bytes.push_back(static_cast<uint8_t>(0x81 + at));
+  return bytes;
+}
+
+// The call must give the same wherever `out`, which has `room` bytes, lies over the input.
+void ExpectSameInPlace(const ByteVector& input, size_t room, size_t step, const Call& call) {
+  ByteVector in = input;
+  ByteVector apart(room);
+  uint32_t size = 0;
+  call(in.data(), Size(in), apart.data(), &size);
+  ASSERT_NE(size, 0U);
+  for (size_t at = 0; at <= room + input.size(); at += step) {
+    ByteVector both(2 * room + input.size());
+    std::copy(input.begin(), input.end(), both.data() + room);
+    uint32_t given = 0;
+    call(&both[room], Size(in), &both[at], &given);
+    ASSERT_EQ(ToHex(&both[at], given), ToHex(apart.data(), size)) << at;
+  }
+}
+
+template <typename Key>
+void EncodeInPlace(int32_t (*encode)(const Key*, uint8_t*, uint32_t*), size_t room) {
+  ExpectSameInPlace(Numbered(sizeof(Key)), room, 4, [=](auto* in, auto, auto* out, auto* given) {
+    EXPECT_EQ(encode(reinterpret_cast<Key*>(in), out, given), 0);
+  });
+}
+
+template <typename Key>
+void DecodeInPlace(int32_t (*decode)(const uint8_t*, uint32_t, Key*), const ByteVector& der) {
+  ExpectSameInPlace(der, sizeof(Key), 4, [=](auto* in, auto size, auto* out, auto* given) {
+    EXPECT_EQ(decode(in, size, reinterpret_cast<Key*>(out)), 0);
+    *given = sizeof(Key);
+  });
+}
+
+template <typename Key, int32_t (*kDecode)(Key*, const uint8_t*, int32_t)>
+int32_t KeyLast(const uint8_t* der, uint32_t size, Key* key) {
+  return kDecode(key, der, static_cast<int32_t>(size));
+}
+
+TEST(InPlace, KeysAreAsApart) {
+  EncodeInPlace(ZantEncodePublicKey, 528);
+  EncodeInPlace(ZantEncodePrivateKey, 1452);
+  EncodeInPlace(ASN1_EccPubkey2Der, 312);
+  DecodeInPlace(KeyLast<ZantPublicKey, ZantDecodePublicKey>, FromHex("@rsa2048_public.der"));
+  DecodeInPlace(KeyLast<ZantPrivateKey, ZantDecodePrivateKey>, FromHex("@rsa2048_pkcs1.der"));
+  DecodeInPlace(ASN1_Der2EccPubkey, Numbered(64, "30 46 30 00 03 42 00 04"));
+  DecodeInPlace(ASN1_Der2EccPrikey, Numbered(32, "30 2D 05 00 05 00 04 27 30 25 02 01 01 04 20"));
+}
+
+TEST(InPlace, ValuesAreAsApart) {
+  const ByteVector number = FromHex("02 05 00 81 82 83 84");
+  ExpectSameInPlace(number, 8, 1, [](auto* in, auto size, auto* out, auto* given) {
+    const Anybuf node = {in, size, 0, 2, 2, nullptr, nullptr};
+    ASN1_ReadOctetStringToBytes(&node, out, given);
+  });
+  ExpectSameInPlace(number, 8, 1, [](auto* in, auto size, auto* out, auto* given) {
+    ASN1_SM2_PrikeyDecode(out, given, in, size);
+  });
+  ExpectSameInPlace(Numbered(32), 40, 1, ASN1_SM2_PrikeyEncode);
+}
+
+// Two numbers from one buffer to one.
+TEST(InPlace, PairsAreAsApart) {
+  for (auto* encode : {ASN1_SM2_SM2SignatureEncode, ASN1_SM2_PubkeyEncode}) {
+    ExpectSameInPlace(Numbered(40), 60, 1, [=](auto* in, auto, auto* out, auto* given) {
+      encode(in + 20, 16, in, 17, out, given);
+    });
+  }
+  for (const auto& [decode, der] :
+       {std::pair(&ASN1_SM2_SM2SignatureDecode, "30 0C 02 04 81 82 83 84 02 04 11 22 33 44"),
+        std::pair(&ASN1_SM2_PubkeyDecode, "03 0A 00 04 81 82 83 84 11 22 33 44")}) {
+    const auto inTurn = [decode = decode](auto* in, auto size, auto* out, auto* given) {
+      // The length of the first number too may lie over the second one.
+      decode(out + 4, reinterpret_cast<uint32_t*>(out), out + 8, given, in, size);
+      *given += 8;
+    };
+    ExpectSameInPlace(FromHex(der), 12, 4, inTurn);
+    const auto swapped = [decode = decode](auto* in, auto size, auto* out, auto* given) {
+      uint32_t firstSize = 0;
+      decode(out + 4, &firstSize, out, given, in, size);
+      *given += firstSize;
+    };
+    ExpectSameInPlace(FromHex(der), 8, 1, swapped);
+  }
+}
+
+// A size beyond 32 bits is refused before a byte is read or written.
+TEST(Sizes, BeyondTheirWidthAreRefused) {
+  uint8_t byte = 0;
+  uint32_t size = 7;
+  const Anybuf huge = {&byte, 0xFFFFFFFF, 0, 2, 4, nullptr, nullptr};
+  EXPECT_EQ(Made(ASN1_WriteSequence, &huge), "-1");
+  ASN1_SM2_SM2SignatureEncode(&byte, 0xFFFFFFFF, &byte, 1, &byte, &size);
+  ASN1_SM2_PrikeyEncode(&byte, 0xFFFFFFFF, &byte, &size);
+  ASN1_SM2_PubkeyEncode(&byte, 0xFFFFFFFF, &byte, 1, &byte, &size);
+  EXPECT_EQ(size, 7U);
+  ZantPublicKey publicKey = {{7}, {8}};
+  EXPECT_EQ(ZantDecodePublicKey(&publicKey, &byte, INT32_MIN), -1);
+  EXPECT_EQ(publicKey.modulus[0] + publicKey.publicExponent[0], 15);
+  ZantPrivateKey privateKey = {{7}, {}, {}, {}, {}, {}, {}, {8}};
+  EXPECT_EQ(ZantDecodePrivateKey(&privateKey, &byte, INT32_MIN), -1);
+  EXPECT_EQ(privateKey.modulus[0] + privateKey.coefficient[0], 15);
+}
+
+}  // namespace
