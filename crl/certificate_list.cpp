@@ -5,6 +5,10 @@ using namespace velkord::internal;
 
 namespace {
 
+// CertificateList ::= SEQUENCE {
+//   tbsCertList         TBSCertList,
+//   signatureAlgorithm  AlgorithmIdentifier,
+//   signatureValue      BIT STRING }
 using Shape = SignedRecord<CertificateList, &CertificateList::tbsCertList,
                            &CertificateList::signatureAlgorithm, &CertificateList::signatureValue>;
 

@@ -6,6 +6,11 @@ using namespace velkord::internal;
 
 namespace {
 
+// RevokedCertificate ::= SEQUENCE {
+//   userCertificate     INTEGER,
+//   revocationDate      Time,
+//   crlEntryExtensions  Extensions OPTIONAL }
+// Unlike the standard's, the serial number may have any tag, and further elements are skipped.
 int32_t Fill(RevokedCertificate& record, DerElements& elements) {
   DerElement element;
   VELKORD_TRY(elements.Next(element));

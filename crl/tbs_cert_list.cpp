@@ -13,8 +13,8 @@ constexpr uint32_t kWrittenVersion = 2;
 constexpr uint32_t kUtcTimeForm = 1;
 constexpr uint32_t kExtensionsTag = 0;
 
-// Optional elements are told by their first octets alone, in a fixed order; the last takes whatever
-// is left.
+// Only the first octet of an optional element decides which it is, in this order; the last element
+// may have any tag.
 int32_t FillOptionals(TbsCertList& record, DerElements& elements) {
   DerElement element;
   if (elements.StartsWith(kUtcTime) || elements.StartsWith(kGeneralizedTime)) {
@@ -33,6 +33,16 @@ int32_t FillOptionals(TbsCertList& record, DerElements& elements) {
   return VELKORD_OK;
 }
 
+// TBSCertList ::= SEQUENCE {
+//   version              Version OPTIONAL,
+//   signature            AlgorithmIdentifier,
+//   issuer               Name,
+//   thisUpdate           Time,
+//   nextUpdate           Time OPTIONAL,
+//   revokedCertificates  SEQUENCE OF RevokedCertificate OPTIONAL,
+//   crlExtensions        [0] EXPLICIT Extensions OPTIONAL }
+// Unlike the standard's, a version is written only when it is 2, and as 2, both times in one form;
+// what is read may have any version, and further elements are skipped.
 int32_t Fill(TbsCertList& record, DerElements& elements) {
   DerElement element;
   if (elements.StartsWith(kInteger)) {
@@ -98,7 +108,7 @@ int32_t ASN1_CRL_TbsCertListSetCrlExtensions(TbsCertList* record, const Anybuf* 
 
 int32_t ASN1_CRL_TbsCertListWriteData(const TbsCertList* record, Anybuf** out) {
   if (record == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
-  // A missing field that stands before the times is reported before they are.
+  // A missing field before the times is reported before an error in them.
   if (record->signature == nullptr || record->issuer == nullptr) return VELKORD_NULL_ARGUMENT;
   const uint8_t form = record->timeForm == kUtcTimeForm ? kUtcTime : kGeneralizedTime;
   TimeElement thisUpdate;

@@ -1,5 +1,5 @@
-// OCTET STRING, BIT STRING, the character strings, ENUMERATED, BOOLEAN and NULL. Writing differs by
-// the tag alone; reading is one function for all.
+// OCTET STRING, BIT STRING, the character strings, ENUMERATED, BOOLEAN and NULL. Writing differs
+// only by the tag; reading is one function for all.
 #include "der/byte_string.h"
 
 #include "der/forward.h"
@@ -99,7 +99,7 @@ int32_t ASN1_ReadBoolean(const Anybuf* source, uint8_t* value) {
   DerElement element;
   VELKORD_TRY(DerParseElement(NodeBytes(*source), element));
   if (element.Content().empty()) return VELKORD_SIZE_MISMATCH;
-  // As it stands: unlike the readers of a content, this drops no octet of a BIT STRING or INTEGER.
+  // Unlike the readers of a content, this drops no octet of a BIT STRING or INTEGER.
   *value = element.Content()[0];
   return VELKORD_OK;
 }

@@ -6,8 +6,8 @@
 
 namespace velkord::internal {
 
-// Copies BMP text to `out`, of each pair a zero high byte left out and an odd last byte too; gives
-// the number of bytes written, at most those of `text`.
+// Copies BMP text to `out` without the high bytes that are zero and without an odd last byte.
+// Returns the number of bytes written, at most those of `text`.
 uint32_t CopyBmpText(Bytes text, uint8_t* out);
 
 }  // namespace velkord::internal

@@ -10,9 +10,9 @@ namespace {
 
 constexpr int64_t kSecondsOfDay = 86400;
 
-// Seconds from the start of 1970 to what fields state, were they UTC. Years are counted from March
-// on, so that the leap day ends one, and from 400 years before the first that a text can state, so
-// that none is negative.
+// Seconds from the start of 1970 to the fields, taken as UTC. Years begin in March, so that the
+// leap day is the last of a year, and are counted from 400 years before the first that a text can
+// state, so that none is negative.
 int64_t CivilSeconds(const std::tm& fields) {
   constexpr uint32_t kDaysTo1970 = 865565;
   const auto months = static_cast<uint32_t>((fields.tm_year + 1900 + 400) * 12 + fields.tm_mon - 2);
@@ -24,7 +24,7 @@ int64_t CivilSeconds(const std::tm& fields) {
   return days * kSecondsOfDay + minutes * 60 + fields.tm_sec;
 }
 
-// The zone's offset from UTC at the time nearest to `time` that there is, and its fields there.
+// The zone's offset from UTC at the time in range that is nearest to `time`, and its fields then.
 bool OffsetAt(int64_t time, int64_t& offset, std::tm& fields) {
   const int64_t nearest = std::clamp<int64_t>(time, 0, INT32_MAX);
   if (!LocalFields(static_cast<int32_t>(nearest), fields)) return false;
@@ -45,7 +45,7 @@ bool FromLocalTime(std::tm& fields, int32_t& seconds) {
   int64_t time = civil - before;
   if (!OffsetAt(time, offset, fields)) return false;
   if (offset != before) {
-    // It has changed meanwhile, and the new offset holds unless the hour was skipped.
+    // The offset has changed in these days; the new one holds unless the hour was skipped.
     std::tm changed{};
     int64_t last;
     if (!OffsetAt(civil - offset, last, changed)) return false;
@@ -54,7 +54,7 @@ bool FromLocalTime(std::tm& fields, int32_t& seconds) {
       fields = changed;
     }
   }
-  // A zone that counts leap seconds shows the second 60 in front of the one that was meant.
+  // A zone that counts leap seconds shows the second 60 before the one that was meant.
   if (fields.tm_sec > 59 && second < 60 && !OffsetAt(++time, offset, fields)) return false;
   if (time < 0 || time > INT32_MAX) return false;
   seconds = static_cast<int32_t>(time);

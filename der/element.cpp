@@ -2,7 +2,7 @@
 
 namespace velkord::internal {
 
-// Contents too long for a test to make.
+// Contents of such lengths are too long for a test to make.
 static_assert(DerLengthSize(0xFFFFFF) == 4 && DerLengthSize(0x1000000) == 5);
 
 int32_t DerParseTag(Bytes& in, uint32_t& tag) {

@@ -1,5 +1,5 @@
 // Reading of DER: views that own nothing, and the tag and length rules. Every tag and length
-// octet is read here, behind one bounds check a step.
+// octet is read here, each step after one bounds check.
 #ifndef VELKORD_DER_ELEMENT_H_
 #define VELKORD_DER_ELEMENT_H_
 
@@ -35,7 +35,7 @@ inline constexpr uint8_t kContextConstructed = 0xA0;
 // The low five bits: the number of a one-octet tag, and all set in the first octet of a longer one.
 inline constexpr uint8_t kTagNumberMask = 0x1F;
 
-// A context or private tag stays whole; a universal or application tag is its number.
+// A context or private tag keeps all its bits; a universal or application tag is its number.
 constexpr uint32_t ReduceTag(uint8_t octet) {
   return octet >= 0x80 ? octet : octet & kTagNumberMask;
 }
@@ -45,12 +45,12 @@ inline constexpr uint32_t kSetType = ReduceTag(kSet);
 
 constexpr bool IsLongTag(uint8_t first) { return (first & kTagNumberMask) == kTagNumberMask; }
 
-// Reads the tag octets at the front of `in`, which moves behind them. A tag of several octets is
+// Reads the tag octets at the front of `in`, which moves past them. A tag of several octets is
 // `(number << 8) | first octet`, the number cut to 24 bits.
 // 0, or -2 when the tag does not end inside `in`.
 int32_t DerParseTag(Bytes& in, uint32_t& tag);
 
-// Reads the length octets at the front of `in`, which moves behind them. Lengths need not be
+// Reads the length octets at the front of `in`, which moves past them. Lengths need not be
 // minimal. 0; -1 for more than 4 subsequent octets; -2 for the indefinite form and for octets cut
 // off.
 int32_t DerParseLength(Bytes& in, uint32_t& length);
@@ -63,7 +63,7 @@ constexpr uint32_t DerLengthSize(uint32_t length) {
   return length < 0x1000000 ? 4 : 5;
 }
 
-// One element: its reduced tag, a view of the whole TLV, and where in it the content begins.
+// One element: its reduced tag, a view of its TLV, and where in that the content begins.
 struct DerElement {
   uint32_t tag = 0;
   size_t headerSize = 0;
@@ -73,12 +73,12 @@ struct DerElement {
 };
 
 // Opens the element at the front of `in`, whatever its header. 0, -1 or -2 as the parsers above.
-// Kept out of the loops that read short headers.
+// It is kept out of the loops that read short headers.
 [[gnu::cold]] int32_t DerOpenAnyElement(Bytes in, DerElement& element);
 
 // Opens the element at the front of `in` if its header is short, as nearly all are: a tag of one
-// octet and a length of one, or of one or two behind the octet that counts them. False for any
-// other header, and for an element that does not fit.
+// octet, and one length octet, or one or two after the octet that counts them. False for any other
+// header, and for an element that does not fit.
 inline bool DerOpenShortElement(Bytes in, DerElement& element) {
   const size_t size = in.size();
   if (size < 2 || IsLongTag(in[0])) return false;
@@ -103,14 +103,14 @@ inline bool DerOpenShortElement(Bytes in, DerElement& element) {
 // Opens the element at the front of `in`. 0, -1 or -2 as the parsers above.
 inline int32_t DerOpenElement(Bytes in, DerElement& element) {
   if (DerOpenShortElement(in, element)) return VELKORD_OK;
-  // By an element of its own, so that `element` is not kept in memory for its sake.
+  // Into a second element, so that the first can stay in registers.
   DerElement any;
   VELKORD_TRY(DerOpenAnyElement(in, any));
   element = any;
   return VELKORD_OK;
 }
 
-// Takes the element at the front of `in`, which moves behind it. 0, -1 or -2 as the parsers above.
+// Takes the element at the front of `in`, which moves past it. 0, -1 or -2 as the parsers above.
 inline int32_t DerTakeElement(Bytes& in, DerElement& element) {
   VELKORD_TRY(DerOpenElement(in, element));
   in = in.subspan(element.whole.size());
@@ -119,7 +119,7 @@ inline int32_t DerTakeElement(Bytes& in, DerElement& element) {
 
 // Takes an element that must fill `in` exactly; -2 when it does not.
 int32_t DerParseElement(Bytes in, DerElement& element);
-// The same of a SEQUENCE or SET of reduced tag `type`; -7 for another tag, before all else.
+// The same for a SEQUENCE or SET of reduced tag `type`; -7 for another tag, before other codes.
 int32_t DerParseElementOf(uint32_t type, Bytes in, DerElement& element);
 
 // Whether the children of an element fit its content. 0, or -1.
@@ -129,9 +129,9 @@ int32_t DerCheckChildren(Bytes content);
 class DerElements {
  public:
   // Reads the SEQUENCE or SET of reduced tag `type` that fills `in`: `read` takes the children that
-  // it needs, and the others are checked after it. Nothing that it stores counts before that.
+  // it needs, and the others are checked after it. Use what it stored only when this returns 0.
   // -7 for another tag; -1 or -2 from the header; -1 when a child does not fit, whatever `read`
-  // returns; the code of `read`.
+  // returns; otherwise the code of `read`.
   template <typename Reader>
   static int32_t Read(Bytes in, uint32_t type, Reader read) {
     DerElements elements;
@@ -139,8 +139,8 @@ class DerElements {
     return elements.Finish(read(elements));
   }
 
-  // Gives each child of a SEQUENCE to `read` with its place, 0 for the first and 1 for all after
-  // it, so that of more than two the last counts. The codes of `Read`; -1 for fewer than two.
+  // Reads a SEQUENCE of two: calls `read` with each child and its place, 0 for the first and 1 for
+  // all after it, so that of more than two the last counts. As `Read`; -1 for fewer than two.
   template <typename Reader>
   static int32_t ReadPair(Bytes in, Reader read) {
     return Read(in, kSequenceType, [&](DerElements& elements) -> int32_t {
@@ -153,8 +153,8 @@ class DerElements {
     });
   }
 
-  // Opens the same and checks all children, for what is done at once with each of them.
-  // 0, -7, -1 or -2 as above.
+  // Opens the same and checks all children first, for a caller that stores something for good
+  // while it takes them. 0, -7, -1 or -2 as above.
   int32_t Open(Bytes in, uint32_t type);
 
   bool AtEnd() const { return rest_.empty(); }
@@ -164,7 +164,7 @@ class DerElements {
   // The first octet of the next child, which there must be.
   uint8_t NextOctet() const { return rest_[0]; }
 
-  // Gives the next child. 0, or -1 at the end and for one that does not fit.
+  // Takes the next child. 0, or -1 at the end and for one that does not fit.
   int32_t Next(DerElement& child);
 
  private:

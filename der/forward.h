@@ -1,4 +1,5 @@
-// Further export names of one function: a line each, the new name and the one that does the work.
+// Further exported names of one function, a line each: the new name, and the one that does the
+// work.
 #ifndef VELKORD_DER_FORWARD_H_
 #define VELKORD_DER_FORWARD_H_
 

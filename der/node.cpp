@@ -71,9 +71,9 @@ int32_t DerCopyBitString(Bytes in, Anybuf** out) {
 }
 
 int32_t DerCopyElement(Bytes in, Anybuf** out) {
-  Bytes behindTag = in;
+  Bytes afterTag = in;
   uint32_t tag;
-  VELKORD_TRY(DerParseTag(behindTag, tag));
+  VELKORD_TRY(DerParseTag(afterTag, tag));
   return DerCopyBytes(in, tag, 0, out);
 }
 
@@ -131,8 +131,8 @@ int32_t DerRetag(uint8_t tag, const DerElement& element, Anybuf** out) {
 }
 
 int32_t DerRewrite(uint8_t tag, const DerElement& element, Anybuf** out) {
-  // Without such an octet on either side, and for an INTEGER that keeps its own, the content is
-  // copied as it stands.
+  // Where neither type has such an octet, and for an INTEGER that needs none, the content is
+  // unchanged.
   const Bytes raw = element.Content();
   const auto hasOctet = [](uint32_t type) { return type == kBitString || type == kInteger; };
   const bool isPlain = !hasOctet(tag) && !hasOctet(element.tag);
@@ -191,10 +191,10 @@ int32_t DerOpenContent(const DerElement& child, Bytes& content) {
   return OpenElement(child, child.tag == kBitString, content);
 }
 
-int32_t DerNextContent(DerElements& children, Bytes& content, uint32_t passedOver) {
+int32_t DerNextContent(DerElements& children, Bytes& content, uint32_t skipped) {
   DerElement child;
   VELKORD_TRY(children.Next(child));
-  for (; passedOver != 0; --passedOver) VELKORD_TRY(children.Next(child));
+  for (; skipped != 0; --skipped) VELKORD_TRY(children.Next(child));
   return DerOpenContent(child, content);
 }
 

@@ -12,7 +12,7 @@ uint32_t ObjectIdSize(std::string_view text) {
 }
 
 void FillObjectId(std::span<uint8_t> room, std::string_view text) {
-  // A refused text stands for an identifier without content.
+  // A refused text has no octets, but would write those of its first arcs.
   if (room.empty()) return;
   DerWriter writer(room);
   ForEachObjectIdOctet(text, [&](uint8_t octet) { writer.Put(octet); });
@@ -23,7 +23,6 @@ bool IsObjectId(Bytes content, std::string_view text) {
   bool same = true;
   const bool accepted = ForEachObjectIdOctet(
       text, [&](uint8_t octet) { same = same && at < content.size() && content[at++] == octet; });
-  // A refused text stands for an identifier without content.
   return accepted ? same && at == content.size() : content.empty();
 }
 

@@ -9,7 +9,7 @@
 namespace velkord::internal {
 
 // Calls `sink` with each content octet of the dotted text, blanks taken as points, in order.
-// False for a text that is refused; the octets of the arcs before the bad one have then been given.
+// False for a text that is refused; the octets of the arcs before the bad one have then been seen.
 template <typename Sink>
 constexpr bool ForEachObjectIdOctet(std::string_view text, Sink sink) {
   if (text.size() < 2 || text[0] < '0' || text[0] > '2') return false;
@@ -36,16 +36,17 @@ constexpr bool ForEachObjectIdOctet(std::string_view text, Sink sink) {
   return true;
 }
 
-// Number of content octets of the dotted text; 0 for a text that is refused.
+// Number of content octets of the dotted text; 0 for a text that is refused, which stands for an
+// identifier without content in the functions below too.
 uint32_t ObjectIdSize(std::string_view text);
 
-// Fills the room of so many octets with them.
+// Fills a room of that size with the octets.
 void FillObjectId(std::span<uint8_t> room, std::string_view text);
 
-// Whether `content` holds exactly those octets.
+// Whether `content` is exactly those octets.
 bool IsObjectId(Bytes content, std::string_view text);
 
-// The text that a caller gave; none when its length is negative. 0, or -8 for a null pointer.
+// A view of a caller's text, empty when the length is negative. 0, or -8 for a null pointer.
 int32_t CallerText(const char* text, int32_t length, std::string_view& out);
 
 }  // namespace velkord::internal

@@ -1,4 +1,4 @@
-// Passing a failing step's code up. The codes themselves stand in the public header.
+// Returns the code of a step that fails. The codes themselves are in the public header.
 #ifndef VELKORD_DER_RESULT_H_
 #define VELKORD_DER_RESULT_H_
 

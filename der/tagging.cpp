@@ -60,10 +60,10 @@ int32_t ASN1_WriteImplicit(const Anybuf* source, uint32_t tagNumber, Anybuf** ou
 
 int32_t ASN1_ReadImplicit(const Anybuf* source, Anybuf** out, uint32_t* outTagNumber) {
   if (source == nullptr || out == nullptr || outTagNumber == nullptr) return VELKORD_NULL_ARGUMENT;
-  Bytes behindTag = NodeBytes(*source);
+  Bytes afterTag = NodeBytes(*source);
   uint32_t tag;
-  VELKORD_TRY(DerParseTag(behindTag, tag));
-  // The tag number is given whatever becomes of the rest.
+  VELKORD_TRY(DerParseTag(afterTag, tag));
+  // The tag number is stored even when the rest is refused.
   *outTagNumber = tag & kTagNumberMask;
 
   DerElement element;

@@ -1,4 +1,4 @@
-// The rules of EXPLICIT and IMPLICIT tags that records share with the exports.
+// EXPLICIT and IMPLICIT tags: what the records share with the exports.
 #ifndef VELKORD_DER_TAGGING_H_
 #define VELKORD_DER_TAGGING_H_
 

@@ -41,7 +41,7 @@ uint8_t* PutTwoDigits(uint8_t* place, int value) {
   return place + 2;
 }
 
-// The time that a text tells, and its fields in range.
+// The time of a text, and its fields in range.
 int32_t ReadText(const DerElement& element, std::tm& fields, int32_t& time) {
   const Bytes text = element.Content();
   const bool hasCentury = element.tag == ReduceTag(kGeneralizedTime);
@@ -70,8 +70,8 @@ uint8_t FormByFirstOctet(Bytes in) {
   return !in.empty() && in[0] == kUtcTime ? kUtcTime : kGeneralizedTime;
 }
 
-// Opens the element of a node whose `dataType` must be that of `form`. The length in its header is
-// not used: the element reaches to the end of the node. 0, -7, then -1 or -2 from the header.
+// Opens the element of a node whose `dataType` must be that of `form`. The length in its header
+// does not count: the element ends with the node. 0, -7, then -1 or -2 from the header.
 int32_t OpenNode(const Anybuf& source, uint8_t form, DerElement& element) {
   VELKORD_TRY(CheckForm(form, source.dataType));
   const Bytes in = NodeBytes(source);

@@ -1,4 +1,5 @@
-// Time text: the machine's local time followed by "Z".
+// Time ::= CHOICE { utcTime UTCTime, generalTime GeneralizedTime }
+// Unlike the standard's, the text is the machine's local time, yet followed by "Z".
 #ifndef VELKORD_DER_TIME_H_
 #define VELKORD_DER_TIME_H_
 
@@ -13,7 +14,7 @@ class TimeElement {
  public:
   // In the form of `tag`, UTCTime or GeneralizedTime. 0, -4 for a negative time, or -7000.
   int32_t Set(int32_t time, uint8_t tag);
-  // From local time, its fields in range.
+  // The same of local time, whose fields are in range.
   void Set(const std::tm& fields, uint8_t tag);
 
   // Empty before a time is set.
@@ -24,15 +25,15 @@ class TimeElement {
   size_t size_ = 0;
 };
 
-// Reads a time in the form that its tag gives, UTCTime for any but GeneralizedTime. All bytes
-// behind the header are its text. 0, -5, or -7000.
+// Reads a time in the form that its tag selects, UTCTime for any but GeneralizedTime. All bytes
+// after the header are its text. 0, -5, or -7000.
 int32_t TimeRead(const DerElement& element, int32_t& time);
 
-// The same of the form that the first octet selects: UTCTime by its tag, else GeneralizedTime. -7
-// for any other tag.
+// The same in the form that the first octet selects: UTCTime by its tag, else GeneralizedTime. -7
+// for a reduced tag that is not that form's.
 int32_t TimeReadByFirstOctet(const DerElement& element, uint8_t& form, int32_t& time);
 
-// Makes a time TLV node of such an element: its time in the form that the first octet selects.
+// Makes a TLV node of such an element: its time, written again in that form.
 int32_t TimeRewrite(const DerElement& element, Anybuf** out);
 // The same of a node by its `dataType`; -1 or -2 from the header.
 int32_t TimeRewrite(const Anybuf& source, Anybuf** out);

@@ -1,4 +1,4 @@
-// Writing of DER: the header of an element, and what fills a block whose size was counted before.
+// Writing of DER: the header of an element, and a writer for a block whose size was counted before.
 #ifndef VELKORD_DER_WRITER_H_
 #define VELKORD_DER_WRITER_H_
 
@@ -9,13 +9,13 @@
 
 namespace velkord::internal {
 
-// Copies `bytes` to a buffer, which may lie over them, and gives their number.
+// Copies `bytes` to a buffer, which may overlap them, and returns their number.
 inline uint32_t CopyOut(Bytes bytes, uint8_t* out) {
   if (!bytes.empty()) std::memmove(out, bytes.data(), bytes.size());
   return static_cast<uint32_t>(bytes.size());
 }
 
-// The header of an element: tag and length octets, and the octet that the content has in front.
+// The header of an element: tag and length octets, and the octet that precedes some contents.
 class DerHeader {
  public:
   DerHeader(uint8_t tag, uint64_t contentLength) : DerHeader(tag, contentLength, false, 0) {}
@@ -23,9 +23,9 @@ class DerHeader {
   static DerHeader ForBitString(uint32_t unusedBits, uint64_t bitsLength) {
     return {kBitString, bitsLength + 1, true, static_cast<uint8_t>(unusedBits)};
   }
-  // With the octet that the content of such an element has in front: a BIT STRING's is the low byte
-  // of `unusedBits`, which no other type looks at; an INTEGER's is zero, and there only when the
-  // content begins with 0x80 or more.
+  // With the octet that precedes the content of some types: in a BIT STRING it is the low byte of
+  // `unusedBits`, which no other type looks at; in an INTEGER it is zero, and is
+  // there only when the content begins with 0x80 or more.
   static DerHeader For(uint8_t tag, Bytes content, uint32_t unusedBits = 0) {
     if (tag == kBitString) return ForBitString(unusedBits, content.size());
     if (tag == kInteger && !content.empty() && content[0] >= 0x80) {
@@ -35,14 +35,14 @@ class DerHeader {
   }
 
   uint8_t Tag() const { return tag_; }
-  // Size of the header, and of the whole element.
+  // Size of the header, and of the element.
   uint32_t Size() const { return 1 + lengthSize_ + (hasOctet_ ? 1 : 0); }
   uint64_t Total() const { return 1 + lengthSize_ + contentLength_; }
 
  private:
   friend class DerWriter;
 
-  // A length beyond 32 bits is refused by whoever makes the element, which is never smaller.
+  // Whoever makes the element refuses one beyond 32 bits, and with it such a length.
   DerHeader(uint8_t tag, uint64_t contentLength, bool hasOctet, uint8_t octet)
       : tag_(tag),
         hasOctet_(hasOctet),
@@ -50,7 +50,7 @@ class DerHeader {
         lengthSize_(DerLengthSize(static_cast<uint32_t>(contentLength))),
         contentLength_(contentLength) {}
 
-  // Writes the header and gives the place after it.
+  // Writes the header and returns the place after it.
   uint8_t* Write(uint8_t* place) const;
 
   uint8_t tag_;
@@ -75,7 +75,8 @@ inline uint8_t* DerHeader::Write(uint8_t* place) const {
   return place;
 }
 
-// Fills a block from its front, and in the end has filled it.
+// Fills a block from front to end. That it stays inside the block and in the end has filled it is
+// asserted.
 class DerWriter {
  public:
   explicit DerWriter(std::span<uint8_t> room)
@@ -91,7 +92,7 @@ class DerWriter {
     place_ = header.Write(place_);
   }
 
-  // The next `size` octets, for what fills them by itself.
+  // The next `size` octets, for a caller that fills them itself.
   std::span<uint8_t> Take(size_t size) {
     assert(size <= Left());
     place_ += size;
@@ -105,7 +106,7 @@ class DerWriter {
   const uint8_t* end_;
 };
 
-// A header as a part of what is joined.
+// The octets of a header, as one of the parts that are joined.
 class DerHeaderOctets {
  public:
   explicit DerHeaderOctets(const DerHeader& header) : size_(header.Size()) {

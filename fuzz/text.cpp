@@ -37,7 +37,7 @@ void Base64(Input in) {
   for (const velkord::internal::Base64Kernel& kernel : velkord::internal::Base64Kernels()) {
     Buffer other(decoded.room);
     other.size = velkord::internal::DecodeBase64(
-        kernel, text, velkord::internal::Strangers::kTakePlaces, other.bytes.get());
+        kernel, text, velkord::internal::Invalid::kTakePlaces, other.bytes.get());
     REQUIRE(Same(other.View(), decoded.View()) && other.IsUntouched(other.size));
     Buffer same(encoded.room - 1);
     char* place = reinterpret_cast<char*>(same.bytes.get());

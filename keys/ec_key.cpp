@@ -10,8 +10,8 @@ namespace {
 
 constexpr uint32_t kBits = 256;
 
-// Both coordinates stand behind each other in the record as in a point, so that one move copies
-// them, whatever lies over what.
+// The coordinates are next to each other in the record as in a point, so that one move copies both,
+// even where the buffers overlap.
 constexpr size_t kCoordinates = offsetof(EccPubkey, x);
 constexpr size_t kCoordinatesSize = sizeof(EccPubkey) - kCoordinates;
 
@@ -28,7 +28,12 @@ constexpr auto Octets(const char (&hex)[kSize]) {
   return octets;
 }
 
-// All of a public key's DER but the coordinates: the curve is always the same.
+// SubjectPublicKeyInfo ::= SEQUENCE {
+//   algorithm         SEQUENCE { algorithm OBJECT IDENTIFIER, parameters ECParameters },
+//   subjectPublicKey  BIT STRING  -- 04, X, Y
+// }
+// This is all of it but the coordinates: the curve is always the same. The identifiers of the key
+// and of its field are not those of the standard.
 constexpr auto kPublicKeyStart = Octets(
     "30820134"                  // SubjectPublicKeyInfo
     "3081ED"                    // AlgorithmIdentifier
@@ -46,7 +51,7 @@ constexpr auto kPublicKeyStart = Octets(
     "03420004"                                                                // The public point
 );
 
-// Gives the content of element number `place`, the first being 0, of a SEQUENCE.
+// The content of element number `place`, the first being 0, of a SEQUENCE.
 int32_t OpenChild(Bytes in, uint32_t place, Bytes& content) {
   return DerElements::Read(in, kSequenceType, [&](DerElements& elements) {
     return DerNextContent(elements, content, place);
@@ -77,6 +82,16 @@ int32_t ASN1_Der2EccPubkey(const uint8_t* der, uint32_t derLen, EccPubkey* key) 
   return VELKORD_OK;
 }
 
+// PrivateKeyInfo ::= SEQUENCE {
+//   version              Version,
+//   privateKeyAlgorithm  AlgorithmIdentifier,
+//   privateKey           OCTET STRING }  -- an ECPrivateKey
+// ECPrivateKey ::= SEQUENCE {
+//   version     INTEGER,
+//   privateKey  OCTET STRING,
+//   parameters  [0] EXPLICIT ECParameters OPTIONAL,
+//   publicKey   [1] EXPLICIT BIT STRING OPTIONAL }
+// Unlike the standard's, elements of any tag are read, and only the two private keys are.
 int32_t ASN1_Der2EccPrikey(const uint8_t* der, uint32_t derLen, EccPrikey* key) {
   Bytes privateKey;
   Bytes value;

@@ -19,7 +19,7 @@ int32_t Scratch::Hold(Bytes& in) {
 }
 
 void Scratch::WipeAndRelease() {
-  // Through a volatile pointer, or the compiler would leave out what nobody reads any more.
+  // Through a volatile pointer, or the compiler would drop writes that nothing reads.
   volatile uint8_t* bytes = bytes_;
   std::fill_n(bytes, size_, uint8_t{0});
   Release(bytes_);

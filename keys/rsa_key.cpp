@@ -11,7 +11,8 @@ namespace {
 
 constexpr uint8_t kPrivateKeyVersion[] = {0};
 
-// Size of the content of an AlgorithmIdentifier for RSA, by which alone a PrivateKeyInfo is told.
+// Size of the content of an AlgorithmIdentifier for RSA: a second element of this size marks a
+// PrivateKeyInfo.
 constexpr size_t kAlgorithmSize = 13;
 
 // The significant bytes of a field.
@@ -38,8 +39,8 @@ int32_t FillFields(DerElements& elements, std::initializer_list<std::span<uint8_
   return VELKORD_OK;
 }
 
-// Clears a record and opens the DER that it is to be filled from, which is kept in `scratch` if the
-// record lies over it.
+// Clears a record and opens the DER that fills it, which is kept in `scratch` if the record
+// overlaps it.
 template <typename Key>
 int32_t ClearAndOpen(Key* key, const uint8_t* der, int32_t derLen, Scratch& scratch,
                      DerElements& elements) {
@@ -50,8 +51,11 @@ int32_t ClearAndOpen(Key* key, const uint8_t* der, int32_t derLen, Scratch& scra
   return elements.Open(in, kSequenceType);
 }
 
-// Gives the modulus of a private key; `elements` moves to what stands behind it, inside the OCTET
-// STRING of a PrivateKeyInfo. A version stands in front in both forms.
+// PrivateKeyInfo ::= SEQUENCE {
+//   version              Version,
+//   privateKeyAlgorithm  AlgorithmIdentifier,
+//   privateKey           OCTET STRING }  -- an RSAPrivateKey
+// The modulus of this or of a bare RSAPrivateKey; `elements` moves to what follows it there.
 int32_t OpenModulus(DerElements& elements, Bytes& modulus) {
   VELKORD_TRY(DerNextContent(elements, modulus, 1));
   if (modulus.size() != kAlgorithmSize) return VELKORD_OK;
@@ -63,6 +67,10 @@ int32_t OpenModulus(DerElements& elements, Bytes& modulus) {
 
 }  // namespace
 
+// RSAPublicKey ::= SEQUENCE {
+//   modulus         INTEGER,
+//   publicExponent  INTEGER }
+// Unlike the standard's, elements of any tag are read, and further ones are skipped; so below.
 int32_t ZantEncodePublicKey(const ZantPublicKey* key, uint8_t* der, uint32_t* derLen) {
   if (key == nullptr || derLen == nullptr) return VELKORD_FAILURE;
   const std::array numbers = {KeyFieldTrim(key->modulus), KeyFieldTrim(key->publicExponent)};
@@ -77,6 +85,16 @@ int32_t ZantDecodePublicKey(ZantPublicKey* key, const uint8_t* der, int32_t derL
   return FillFields(elements, {key->modulus, key->publicExponent});
 }
 
+// RSAPrivateKey ::= SEQUENCE {
+//   version          Version,
+//   modulus          INTEGER,
+//   publicExponent   INTEGER,
+//   privateExponent  INTEGER,
+//   prime1           INTEGER,
+//   prime2           INTEGER,
+//   exponent1        INTEGER,
+//   exponent2        INTEGER,
+//   coefficient      INTEGER }
 int32_t ZantEncodePrivateKey(const ZantPrivateKey* key, uint8_t* der, uint32_t* derLen) {
   if (key == nullptr || derLen == nullptr) return VELKORD_FAILURE;
   const std::array numbers = {Bytes(kPrivateKeyVersion),         KeyFieldTrim(key->modulus),
@@ -85,7 +103,7 @@ int32_t ZantEncodePrivateKey(const ZantPrivateKey* key, uint8_t* der, uint32_t* 
                               KeyFieldTrim(key->exponent1),      KeyFieldTrim(key->exponent2),
                               KeyFieldTrim(key->coefficient)};
   if (numbers[1].empty() || numbers[2].empty() || numbers[3].empty()) return VELKORD_FAILURE;
-  // A key without the numbers behind them is no failure, but there is nothing to write of it.
+  // A key that lacks one of the other numbers is no failure, but nothing is written of it.
   const bool complete =
       std::none_of(numbers.begin(), numbers.end(), [](Bytes number) { return number.empty(); });
   return complete ? WriteIntegerSequence(numbers, der, derLen) : VELKORD_OK;

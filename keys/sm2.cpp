@@ -1,5 +1,5 @@
-// SM2 signatures, private values and public points. These functions report nothing: what cannot be
-// done leaves every out argument alone.
+// SM2 signatures, private values and public points. These functions report nothing: on failure
+// every out argument is unchanged.
 #include "keys/in_place.h"
 #include "keys/integer_sequence.h"
 
@@ -22,7 +22,7 @@ void WriteElement(const DerHeader& header, std::initializer_list<Bytes> parts, u
   if (WriteInPlace(parts, der, size, write) == VELKORD_OK) *derLen = size;
 }
 
-// Gives two parts of an input, of which the second must not be lost to the first.
+// Copies two parts of an input out. Writing the first may not overwrite the second.
 void CopyOutBoth(Bytes first, uint8_t* out, uint32_t* outLen, Bytes second, uint8_t* secondOut,
                  uint32_t* secondOutLen) {
   const auto* length = static_cast<const uint8_t*>(static_cast<const void*>(outLen));
@@ -35,6 +35,10 @@ void CopyOutBoth(Bytes first, uint8_t* out, uint32_t* outLen, Bytes second, uint
   *secondOutLen = CopyOut(second, secondOut);
 }
 
+// SM2Signature ::= SEQUENCE {
+//   r  INTEGER,
+//   s  INTEGER }
+// Unlike the standard's, elements of any tag are read, and further ones are skipped.
 int32_t OpenSignature(const uint8_t* der, uint32_t derLen, Bytes& r, Bytes& s) {
   Bytes in;
   VELKORD_TRY(CallerBytes(der, derLen, in));
@@ -44,6 +48,9 @@ int32_t OpenSignature(const uint8_t* der, uint32_t derLen, Bytes& r, Bytes& s) {
   });
 }
 
+// SM2PrivateKey ::= INTEGER
+// SM2PublicKey ::= BIT STRING  -- 04, X, Y
+// Unlike the standard's, an element of any tag is read.
 int32_t OpenValue(const uint8_t* der, uint32_t derLen, Bytes& content) {
   Bytes in;
   VELKORD_TRY(CallerBytes(der, derLen, in));
@@ -83,7 +90,7 @@ int32_t ASN1_SM2_PrikeyEncode(const uint8_t* value, uint32_t valueLen, uint8_t* 
   }
   const DerHeader header = DerHeader::For(kInteger, number);
   if (header.Total() > UINT32_MAX) return VELKORD_OK;
-  // One move, and then the header in front, so that `der` may lie over the value.
+  // The value first and then the header before it, so that `der` may overlap the value.
   const auto size = static_cast<uint32_t>(header.Total());
   CopyOut(number, der + header.Size());
   DerWriter({der, header.Size()}).Put(header);
@@ -120,7 +127,7 @@ int32_t ASN1_SM2_PubkeyDecode(uint8_t* x, uint32_t* xLen, uint8_t* y, uint32_t* 
   if (x != nullptr && xLen != nullptr && y != nullptr && yLen != nullptr &&
       OpenValue(der, derLen, point) == VELKORD_OK && !point.empty() &&
       point.size() <= kMaximumPoint) {
-    // The first byte tells the form and is passed over.
+    // The first byte is the form and is skipped.
     const size_t half = (point.size() - 1) / 2;
     CopyOutBoth(point.subspan(1, half), x, xLen, point.subspan(1 + half, half), y, yLen);
   }

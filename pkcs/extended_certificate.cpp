@@ -5,6 +5,10 @@ using namespace velkord::internal;
 
 namespace {
 
+// ExtendedCertificate ::= SEQUENCE {
+//   extendedCertificateInfo  ExtendedCertificateInfo,
+//   signatureAlgorithm       AlgorithmIdentifier,
+//   signature                BIT STRING }
 using Shape =
     SignedRecord<ExtendedCertificate, &ExtendedCertificate::extendedCertificateInfo,
                  &ExtendedCertificate::signatureAlgorithm, &ExtendedCertificate::signature>;

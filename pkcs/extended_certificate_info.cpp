@@ -1,5 +1,5 @@
-// The signed part of a PKCS#6 extended certificate. Unlike that of a PKCS#10 request it holds its
-// version as a number, and its attributes as a plain SET.
+// The signed part of a PKCS#6 extended certificate. Unlike that of a PKCS#10 request its version is
+// a number, and its attributes are a plain SET.
 #include "der/integer.h"
 #include "x509/record.h"
 
@@ -7,6 +7,11 @@ using namespace velkord::internal;
 
 namespace {
 
+// ExtendedCertificateInfo ::= SEQUENCE {
+//   version      Version,
+//   certificate  Certificate,
+//   attributes   SET OF Attribute }
+// Unlike the standard's, the version may have any tag, and further elements are skipped.
 int32_t Fill(ExtendedCertificateInfo& record, DerElements& elements) {
   DerElement element;
   VELKORD_TRY(elements.Next(element));

@@ -9,12 +9,11 @@ namespace {
 
 constexpr uint32_t kAttributesTag = 0;
 
-// The attributes keep the tag number of their element and come back constructed, the order of what
-// they hold left alone.
+// The attributes keep the tag number of their element and their order, and come back constructed.
 int32_t FillAttributes(const DerElement& element, Anybuf*& field) {
   Bytes content = element.Content();
   if (IsImplicitConstructed(element.tag)) {
-    // They come back as they stand, and are only checked.
+    // They are unchanged, and only checked.
     VELKORD_TRY(DerCheckChildren(content));
   } else {
     VELKORD_TRY(DerOpenImplicit(element, content));
@@ -22,6 +21,13 @@ int32_t FillAttributes(const DerElement& element, Anybuf*& field) {
   return DerBuild(ExplicitTag(element.tag & kTagNumberMask), content, &field);
 }
 
+// CertificationRequestInfo ::= SEQUENCE {
+//   version        Version,
+//   subject        Name,
+//   subjectPKInfo  SubjectPublicKeyInfo,
+//   attributes     [0] IMPLICIT SET OF Attribute }
+// Unlike the standard's, the version may have any tag, the attributes too and may be missing, and
+// further elements are skipped.
 int32_t Fill(PKCS10& record, DerElements& elements) {
   DerElement element;
   VELKORD_TRY(elements.Next(element));

@@ -5,6 +5,10 @@ using namespace velkord::internal;
 
 namespace {
 
+// CertificationRequest ::= SEQUENCE {
+//   certificationRequestInfo  CertificationRequestInfo,
+//   signatureAlgorithm        AlgorithmIdentifier,
+//   signature                 BIT STRING }
 using Shape = SignedRecord<PKCS10Request, &PKCS10Request::certificationRequestInfo,
                            &PKCS10Request::signatureAlgorithm, &PKCS10Request::signature>;
 

@@ -1,5 +1,5 @@
-// The PKCS#7 ContentInfo. Its `[0]` is part of the content that the setter makes, and comes off in
-// the decoder; the writer writes the field as it stands.
+// The PKCS#7 ContentInfo. The setter puts the `[0]` around the content and the decoder takes it
+// off; the writer writes the field unchanged.
 #include "der/tagging.h"
 #include "x509/record.h"
 
@@ -9,6 +9,10 @@ namespace {
 
 constexpr uint32_t kContentTag = 0;
 
+// ContentInfo ::= SEQUENCE {
+//   contentType  OBJECT IDENTIFIER,
+//   content      [0] EXPLICIT ANY DEFINED BY contentType OPTIONAL }
+// Unlike the standard's, both may have any tag, and further elements are skipped.
 int32_t Fill(PKCS7Context& record, DerElements& elements) {
   DerElement element;
   VELKORD_TRY(elements.Next(element));

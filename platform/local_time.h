@@ -7,8 +7,9 @@
 
 namespace velkord::internal {
 
-// Has the C library take over the zone that TZ names, if it is set: alone it may keep the zone of
-// its first look. Without TZ it is not asked, since it would ask the system every time.
+// Makes the C library follow the zone that TZ names, if TZ is set: otherwise it may keep the zone
+// that it read first. Without TZ this does nothing, since the C library would ask the system every
+// time.
 void FollowZone();
 
 // False when the platform refuses a time, of which it must take 0 to 2147483647.

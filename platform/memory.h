@@ -12,7 +12,7 @@ namespace velkord::internal {
 
 // NOLINTBEGIN(cppcoreguidelines-no-malloc,cppcoreguidelines-owning-memory): here, and nowhere else.
 
-// A request for no bytes gives a usable block.
+// A request for no bytes returns a usable block.
 inline uint8_t* AllocateBytes(size_t size) {
   return static_cast<uint8_t*>(std::malloc(size == 0 ? 1 : size));
 }
@@ -23,9 +23,9 @@ Record* Allocate() {
   return static_cast<Record*>(std::malloc(sizeof(Record)));
 }
 
-// One with all bytes 0, those between its fields too, since one Create may serve two types. They
-// are copied: of malloc and memset g++ makes calloc, and that of glibc passes by the blocks that
-// were released last, which are at hand.
+// One with all bytes 0, those between its fields too, since one Create may serve two types. The
+// zeros are copied, because g++ turns malloc and memset into calloc, which in glibc does not reuse
+// the blocks that were released last.
 template <typename Record>
 Record* AllocateZeroed() {
   static constexpr uint8_t kZeros[sizeof(Record)] = {};

@@ -77,8 +77,8 @@ Octets PlainDecode(const std::string& text, bool skipsInvalid) {
 
 void ExpectDecoded(const std::string& text, size_t alignment) {
   const Block in(alignment, text);
-  for (const Strangers invalid : {Strangers::kSkipped, Strangers::kTakePlaces}) {
-    const Octets bytes = PlainDecode(text, invalid == Strangers::kSkipped);
+  for (const Invalid invalid : {Invalid::kSkipped, Invalid::kTakePlaces}) {
+    const Octets bytes = PlainDecode(text, invalid == Invalid::kSkipped);
     for (const Base64Kernel& kernel : Base64Kernels()) {
       const Block out(alignment, Octets(text.size() / 4 * 3));
       const uint32_t size = DecodeBase64(kernel, {in.Text(), text.size()}, invalid, out.bytes);

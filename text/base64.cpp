@@ -93,7 +93,7 @@ char* PutBase64(const Base64Kernel& kernel, const uint8_t* in, size_t size, char
   return place;
 }
 
-uint32_t DecodeBase64(const Base64Kernel& kernel, std::string_view text, Strangers strangers,
+uint32_t DecodeBase64(const Base64Kernel& kernel, std::string_view text, Invalid invalid,
                       uint8_t* out) {
   uint8_t* place = out;
   uint8_t indexes[4] = {};
@@ -101,7 +101,7 @@ uint32_t DecodeBase64(const Base64Kernel& kernel, std::string_view text, Strange
   size_t padding = 0;
   while (!text.empty()) {
     const uint8_t value = Base64Value(text.front());
-    // Asked for a stranger, the kernel would look at a whole block in vain.
+    // At an invalid character the kernel would read a block for nothing.
     if (filled == 0 && value < kBase64Padding) {
       const size_t taken = DecodeCleanGroups(kernel, text, place);
       if (taken != 0) {
@@ -112,7 +112,7 @@ uint32_t DecodeBase64(const Base64Kernel& kernel, std::string_view text, Strange
       }
     }
     text.remove_prefix(1);
-    if (value == kNotBase64 && strangers == Strangers::kSkipped) continue;
+    if (value == kNotBase64 && invalid == Invalid::kSkipped) continue;
     if (value < kBase64Padding) indexes[filled] = value;
     if (value == kBase64Padding) ++padding;
     if (++filled < 4) continue;
@@ -133,6 +133,6 @@ int32_t base64_encode(const uint8_t* in, uint32_t length, char* out) {
 }
 
 int32_t base64_decode(const char* text, uint8_t* out, uint32_t* outLength) {
-  *outLength = DecodeBase64(Base64Kernels().front(), text, Strangers::kTakePlaces, out);
+  *outLength = DecodeBase64(Base64Kernels().front(), text, Invalid::kTakePlaces, out);
   return VELKORD_OK;
 }

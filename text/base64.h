@@ -10,20 +10,20 @@
 
 namespace velkord::internal {
 
-// Writes the characters of `size` bytes, padding included, and gives the place behind them.
+// Writes the characters of `size` bytes with padding, and returns the place after them.
 char* PutBase64(const Base64Kernel& kernel, const uint8_t* in, size_t size, char* place);
 
-// What becomes of a character that is neither of the alphabet nor padding.
-enum class Strangers {
+// How a character is treated that is neither in the alphabet nor padding.
+enum class Invalid {
   kSkipped,
-  // It takes a place in its group, which keeps the index that the group before had there, 0 in the
-  // first.
+  // It takes a place in its group, with the index that the group before had in that place, 0 in the
+  // first group.
   kTakePlaces,
 };
 
-// Decodes the whole groups of `text` to the one with padding or the end, and gives the number of
+// Decodes the complete groups of `text`, up to the first with padding, and returns the number of
 // bytes written.
-uint32_t DecodeBase64(const Base64Kernel& kernel, std::string_view text, Strangers strangers,
+uint32_t DecodeBase64(const Base64Kernel& kernel, std::string_view text, Invalid invalid,
                       uint8_t* out);
 
 }  // namespace velkord::internal

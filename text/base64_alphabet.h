@@ -1,4 +1,4 @@
-// The alphabet of RFC 4648 and what each character stands for.
+// The alphabet of RFC 4648, and the value of each character.
 #ifndef VELKORD_TEXT_BASE64_ALPHABET_H_
 #define VELKORD_TEXT_BASE64_ALPHABET_H_
 
@@ -10,7 +10,7 @@ namespace velkord::internal {
 inline constexpr char kBase64Alphabet[] =
     "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
 
-// What a character stands for: below 64 its index in the alphabet.
+// The value of a character: below 64 its index in the alphabet.
 inline constexpr uint8_t kBase64Padding = 64;
 inline constexpr uint8_t kNotBase64 = 128;
 

@@ -1,9 +1,9 @@
 // Base64 in blocks of 24 bytes and 32 characters, over the vector operations of one instruction
 // set.
 //
-// `Vector` gives the type `Block`, 32 octets in two lanes of 16, and the operations on it. It has
-// internal linkage and so has all that is made of it here: the code of an instruction set stays in
-// the file that is compiled for it.
+// `Vector` has the type `Block`, 32 octets in two lanes of 16, and the operations on it. It has
+// internal linkage, and so has each function that is made of it here: the code of an instruction
+// set stays in the file that is compiled for it.
 #ifndef VELKORD_TEXT_BASE64_BLOCKS_H_
 #define VELKORD_TEXT_BASE64_BLOCKS_H_
 
@@ -21,7 +21,7 @@ namespace velkord::internal {
 inline constexpr size_t kBlockBytes = 24;
 inline constexpr size_t kBlockCharacters = 32;
 
-// A table of 16 octets, which each lane looks up for itself.
+// A table of 16 octets, in which each lane looks its own octets up.
 struct LaneTable {
   uint8_t octets[16];
 };
@@ -46,8 +46,8 @@ constexpr LaneTable SpreadGroups(uint8_t first) {
   return table;
 }
 
-// A lane is loaded with 16 bytes, of which 12 are its own: the first of the low, the last of the
-// high one, so that a block is read and nothing behind it.
+// A lane is loaded with 16 bytes, of which it uses 12: the low lane the first, the high lane the
+// last, so that nothing outside the block is read.
 inline constexpr LaneTable kSpreadLow = SpreadGroups(0);
 inline constexpr LaneTable kSpreadHigh = SpreadGroups(4);
 
@@ -55,8 +55,8 @@ inline constexpr LaneTable kSpreadHigh = SpreadGroups(4);
 inline constexpr LaneTable kGather = {
     {2, 1, 0, 6, 5, 4, 10, 9, 8, 14, 13, 12, 0x80, 0x80, 0x80, 0x80}};
 
-// An index of 26 and more less this, no less than 0, is its place in the table of offsets: 0 for
-// lower case, 1 to 10 for digits, then '+' and '/'. Upper case has the place behind.
+// The place of an index of 26 or more in the table of offsets is the index minus this, at least 0:
+// 0 is for lower case, 1 to 10 for digits, then '+' and '/'. The last place is for upper case.
 inline constexpr uint8_t kBeforeDigits = 51;
 inline constexpr uint8_t kUpperCasePlace = 13;
 
@@ -84,21 +84,21 @@ inline constexpr LaneTable kIndexOffsets = [] {
   return table;
 }();
 
-// A character is none of the alphabet when the bits of its high and of its low half have one in
-// common: a bit for each high half that the alphabet has, and one that stands for the others.
-inline constexpr uint8_t kNoHighHalf = 0x80;
+// A character is invalid when the bits of its high nibble and of its low nibble have one in common:
+// there is a bit for each high nibble in the alphabet, and one for all others.
+inline constexpr uint8_t kOtherNibbles = 0x80;
 inline constexpr LaneTable kHighBits = [] {
   LaneTable table{};
   for (uint8_t high = 0; high < 16; ++high) {
     table.octets[high] =
-        high >= 2 && high < 8 ? static_cast<uint8_t>(1U << (high - 2)) : kNoHighHalf;
+        high >= 2 && high < 8 ? static_cast<uint8_t>(1U << (high - 2)) : kOtherNibbles;
   }
   return table;
 }();
 inline constexpr LaneTable kLowBits = [] {
   LaneTable table{};
   for (uint8_t low = 0; low < 16; ++low) {
-    table.octets[low] = kNoHighHalf;
+    table.octets[low] = kOtherNibbles;
     for (uint8_t high = 2; high < 8; ++high) {
       if (kBase64Values[static_cast<uint8_t>(high << 4 | low)] >= kBase64Padding) {
         table.octets[low] |= kHighBits.octets[high];
@@ -141,7 +141,7 @@ typename Vector::Block EncodeBlock(const uint8_t* in) {
   return Vector::Add(indexes, Vector::Shuffle(Vector::Table(kCharacterOffsets), places));
 }
 
-// The groups of a block of characters. False when one of those is none of the alphabet.
+// The groups of a block of characters. False when one of those is invalid.
 template <typename Vector>
 bool DecodeBlock(const char* in, typename Vector::Block& groups) {
   const auto characters = Vector::LoadCharacters(in);

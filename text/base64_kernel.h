@@ -12,16 +12,16 @@ namespace velkord::internal {
 inline constexpr size_t kLineBytes = 48;
 inline constexpr size_t kLineCharacters = 64;
 
-// Of internal linkage, so that no other file runs what is compiled for an instruction set.
+// It has internal linkage, so that no other file uses a copy compiled for an instruction set.
 static inline char* PutLineEnd(char* place) {
   *place++ = '\r';
   *place++ = '\n';
   return place;
 }
 
-// `encode` and `decode` take from the front of `in` as much as suits them, whole groups alone, and
-// give the number of bytes or characters taken. Nothing is read but `in`, and nothing is written
-// but what those groups give.
+// `encode` and `decode` take complete groups from the front of `in`, as many as suit them, and
+// return the number of bytes or characters taken. They read nothing but `in`, and write nothing
+// but the result of those groups.
 struct Base64Kernel {
   // Groups of three bytes.
   size_t (*encode)(const uint8_t* in, size_t size, char* out);
@@ -32,7 +32,7 @@ struct Base64Kernel {
 };
 
 // The kernels that this processor can run, the fastest first. The last is the portable one, which
-// takes every whole group.
+// takes every complete group.
 std::span<const Base64Kernel> Base64Kernels();
 
 #if defined(__x86_64__) || defined(__i386__)

@@ -1,4 +1,4 @@
-// GB2312 codes, code points and UTF-8: one character and whole texts.
+// GB2312 codes, code points and UTF-8, of one character and of texts.
 #include <algorithm>
 #include <array>
 #include <bit>
@@ -14,12 +14,12 @@ using namespace velkord::internal;
 
 namespace {
 
-// ASCII is passed through in words of this size. What is written past the end of a run is written
-// over by what follows, of which there is enough: six bytes of input give one at least.
+// ASCII is copied in words of this size. What is written past the end of a run is overwritten by
+// what follows, which is long enough: six bytes of input become at least one.
 using Word = uint64_t;
-constexpr uint32_t kEnoughBehindRun = 6 * sizeof(Word);
+constexpr uint32_t kEnoughAfterRun = 6 * sizeof(Word);
 
-// Copies the ASCII that a word of the input begins with, and gives its size.
+// Copies the ASCII that a word of the input begins with, and returns its size.
 uint32_t CopyAscii(const uint8_t* in, uint8_t* out) {
   Word word;
   std::memcpy(&word, in, sizeof word);
@@ -39,7 +39,7 @@ Gb2312Code ThreeByteCode(const uint8_t* in) {
   return kGb2312Index.InThreeBytes(first << 6 | second, third);
 }
 
-// Writes the form of a code point of the table, two or three bytes, and gives the place behind it.
+// Writes the form of a code point of the table, two or three bytes, and returns the place after it.
 uint8_t* PutUtf8(uint8_t* place, uint32_t code) {
   const auto last = static_cast<uint8_t>(0x80 | (code & 0x3F));
   if (code < 0x800) {
@@ -89,7 +89,7 @@ void utf8sToZhs(const uint8_t* in, uint32_t inLen, uint8_t* out, uint32_t* outLe
   uint8_t* place = out;
   uint32_t left = in == nullptr ? 0 : inLen;
   while (left != 0) {
-    if (in[0] < 0x80 && left >= sizeof(Word) + kEnoughBehindRun) {
+    if (in[0] < 0x80 && left >= sizeof(Word) + kEnoughAfterRun) {
       const uint32_t size = CopyAscii(in, place);
       in += size;
       place += size;

@@ -25,7 +25,7 @@ struct Gb2312Pair {
   uint16_t code;
 };
 
-// The assigned codes, rising. It is for making the others and is in no program.
+// The assigned codes, rising. It serves to make the other tables and is in no program.
 inline constexpr std::array<Gb2312Pair, kAssignedCodes> kGb2312Pairs = [] {
   std::array<Gb2312Pair, kAssignedCodes> pairs{};
   size_t at = 0;
@@ -59,9 +59,9 @@ constexpr uint32_t SearchGb2312(uint32_t gb) {
   return code;
 }
 
-// What the search gives for every code of two bytes. Codes between two neighbours of the table all
-// give the same, so the cells of a row are preceded by one for the codes below it, down to the
-// cells of the row before; rows without characters at both ends stand for all codes beyond.
+// The result of the search for every code of two bytes. Codes between two neighbours of the table
+// all have the same, so the cells of a row are preceded by one for the codes below it, down to the
+// cells of the row before; the rows without characters at both ends serve all codes beyond.
 class Gb2312CodePoints {
  public:
   constexpr Gb2312CodePoints() {
@@ -90,8 +90,8 @@ class Gb2312CodePoints {
 
   std::array<uint16_t, 256> rowStart_{};
   std::array<uint8_t, 256> column_{};
-  // The low byte FF falls on the first column of the row behind, of which the last row has one
-  // more.
+  // The low byte FF is the first column of the next row, so that there is one column after the last
+  // row.
   std::array<uint16_t, (kLastRow - kFirstRow + 1) * kColumns + 1> codes_{};
 };
 
@@ -111,8 +111,8 @@ constexpr size_t CountGb2312Pages() {
 }
 
 // Codes by code point, in pages of 64, those without characters sharing page 0. The code points
-// below 800, whose UTF-8 has two bytes, are looked up apart, so that a form of three bytes that is
-// longer than need be finds nothing.
+// below 800, whose UTF-8 has two bytes, have pages of their own, so that an overlong form of three
+// bytes finds nothing.
 class Gb2312Index {
  public:
   constexpr Gb2312Index() {

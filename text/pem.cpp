@@ -12,8 +12,8 @@ using namespace velkord::internal;
 constexpr uint32_t kLengthLimit = 1U << 30;
 constexpr size_t kMarkerDashes = 5;
 
-// Size of the whole text without its terminating zero. It always fits: `length` is below 2^30, and
-// strings in memory are far below 2^63.
+// Size of the text without its terminating zero. It always fits 64 bits: `length` is below 2^30,
+// and strings in memory are far below 2^63.
 uint64_t PemSize(uint32_t length, std::string_view header, std::string_view footer) {
   const uint64_t characters = (uint64_t{length} + 2) / 3 * 4;
   const uint64_t lines = (characters + kLineCharacters - 1) / kLineCharacters;
@@ -76,6 +76,6 @@ int32_t DER2PEM_data_format(const uint8_t* der, uint32_t length, char* out, uint
 int32_t PEM2DER_data_format(const char* pem, uint32_t length, uint8_t* out, uint32_t* outLength) {
   std::string_view body;
   if (!FindBody(std::string_view(pem, length), body)) return VELKORD_FAILURE;
-  *outLength = DecodeBase64(Base64Kernels().front(), body, Strangers::kSkipped, out);
+  *outLength = DecodeBase64(Base64Kernels().front(), body, Invalid::kSkipped, out);
   return VELKORD_OK;
 }

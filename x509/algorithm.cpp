@@ -1,4 +1,8 @@
 // AlgorithmIdentifier: an object identifier and one parameter element.
+//
+// AlgorithmIdentifier ::= SEQUENCE {
+//   algorithm   OBJECT IDENTIFIER,
+//   parameters  ANY DEFINED BY algorithm OPTIONAL }
 #include "der/forward.h"
 #include "der/node.h"
 #include "platform/memory.h"
@@ -16,10 +20,11 @@ struct AlgorithmView {
   Bytes parameter;
 };
 
+// Unlike the standard's, the parameters may be several, of which each is checked and the last
+// counts.
 int32_t OpenAlgorithm(Bytes in, AlgorithmView& algorithm) {
   return DerElements::Read(in, kSequenceType, [&](DerElements& elements) -> int32_t {
     VELKORD_TRY(DerNextContent(elements, algorithm.oid));
-    // Each parameter is read, and the last one counts.
     while (!elements.AtEnd()) {
       DerElement element;
       VELKORD_TRY(elements.Next(element));
@@ -49,7 +54,7 @@ int32_t ASN1_SetAlgorithmIdentifier(uint32_t mode, Anybuf* oid, const Anybuf* al
   const Anybuf* second = parameter != nullptr ? parameter : alternative;
   if (second == nullptr) return VELKORD_NULL_ARGUMENT;
   VELKORD_TRY(DerJoin(kSequence, {NodeBytes(*oid), NodeBytes(*second)}, out));
-  // The node alone: the parameter may be the one behind it in the caller's chain.
+  // Not its chain: the parameter may be the next node in it.
   Release(oid->data);
   Release(oid);
   return VELKORD_OK;

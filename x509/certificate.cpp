@@ -5,10 +5,14 @@ using namespace velkord::internal;
 
 namespace {
 
+// Certificate ::= SEQUENCE {
+//   tbsCertificate      TBSCertificate,
+//   signatureAlgorithm  AlgorithmIdentifier,
+//   signatureValue      BIT STRING }
 using Shape = SignedRecord<Certificate, &Certificate::tbsCertificate,
                            &Certificate::signatureAlgorithm, &Certificate::signatureValue>;
 
-// A decoded certificate states no unused bits, whatever its signature held.
+// A decoded certificate's signature has no unused bits, whatever the input says.
 int32_t MakeSignature(const DerElement& element, Anybuf** out) {
   return DerRewrite(kBitString, element, out);
 }

@@ -12,7 +12,6 @@ int32_t OpenExtension(Bytes in, ExtensionView& extension) {
     extension.critical = Bytes();
     DerElement value;
     VELKORD_TRY(elements.Next(value));
-    // Of exactly three elements the second is the BOOLEAN.
     DerElement third;
     if (elements.Next(third) == VELKORD_OK && elements.AtEnd()) {
       if (value.Content().empty()) return VELKORD_SIZE_MISMATCH;
@@ -27,6 +26,7 @@ int32_t OpenExtension(Bytes in, ExtensionView& extension) {
 
 using namespace velkord::internal;
 
+// Unlike the standard's, `critical` is written when it is set, also as FALSE.
 int32_t ASN1_SetExtension(const Anybuf* oid, const Anybuf* critical, const Anybuf* value,
                           Anybuf** out) {
   return JoinFields({oid, FieldIfSet(critical), value}, out);

@@ -1,4 +1,9 @@
 // One extension as a view.
+//
+// Extension ::= SEQUENCE {
+//   extnID     OBJECT IDENTIFIER,
+//   critical   BOOLEAN DEFAULT FALSE,
+//   extnValue  OCTET STRING }
 #ifndef VELKORD_X509_EXTENSION_H_
 #define VELKORD_X509_EXTENSION_H_
 
@@ -12,8 +17,8 @@ struct ExtensionView {
   Bytes value;     // Content of the OCTET STRING.
 };
 
-// Opens the SEQUENCE of an extension. With exactly three elements the second is the BOOLEAN; with
-// any other count the second is the value.
+// Opens an extension. The tags do not count: of exactly three elements the second is `critical`,
+// and of any other number the second is the value.
 // 0; -1, -2 or -7 from the SEQUENCE; -1 for a missing element; -2 for a BOOLEAN without content.
 int32_t OpenExtension(Bytes in, ExtensionView& extension);
 

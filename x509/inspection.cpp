@@ -1,5 +1,5 @@
-// A caller's view of a decoded certificate: its subject listed, and one value looked up in an
-// extension. What does not parse is passed over.
+// A caller's view of a decoded certificate: the list of its subject, and one value looked up in an
+// extension. What does not parse is skipped.
 #include <algorithm>
 #include <array>
 #include <string_view>
@@ -14,7 +14,7 @@ using namespace velkord::internal;
 
 namespace {
 
-// The TLV of the identifier under which an extension's item holds its value.
+// The TLV of the identifier that marks an extension's item with a value.
 constexpr std::array<uint8_t, 10> kValueItemId = [] {
   std::array<uint8_t, 10> tlv{kObjectId, 8};
   size_t at = 2;
@@ -22,7 +22,7 @@ constexpr std::array<uint8_t, 10> kValueItemId = [] {
   return tlv;
 }();
 
-// Releases a list of entries and the blocks that they hold.
+// Releases a list of entries and their blocks.
 template <auto... kBlocks, typename Entry>
 void FreeEntries(Entry* entry) {
   while (entry != nullptr) {
@@ -39,7 +39,7 @@ void CopyToBlock(Bytes bytes, uint8_t*& block, uint32_t& length) {
   if (block != nullptr) length = CopyOut(bytes, block);
 }
 
-// Gives an entry the value of an attribute; the value stays empty when its type is not read.
+// Stores the value of an attribute in an entry; it stays empty for a type that is not read.
 void SetEntryValue(const DerElement& value, CertEntry& entry) {
   const uint8_t tag = value.whole[0];
   if (tag == kUtf8String || tag == kPrintableString) {
@@ -50,8 +50,10 @@ void SetEntryValue(const DerElement& value, CertEntry& entry) {
   }
 }
 
-// The content of the second element of an item whose first is the value item's identifier. False
-// for any other item.
+// ValueItem ::= SEQUENCE {
+//   id     OBJECT IDENTIFIER,  -- 1.2.156.1.8888.148
+//   value  ANY }
+// The content of `value`. False for an item with another identifier.
 bool OpenValueItem(Bytes in, Bytes& content) {
   DerElements parts;
   DerElement id;
@@ -61,7 +63,7 @@ bool OpenValueItem(Bytes in, Bytes& content) {
          parts.Next(value) == VELKORD_OK && DerOpenContent(value, content) == VELKORD_OK;
 }
 
-// Copies what the last value item of an extension's value holds.
+// Copies the value of the last ValueItem in a SEQUENCE of items.
 void CopyItemValue(Bytes extensionValue, uint8_t* value, uint32_t* valueLength) {
   DerElements items;
   if (items.Open(extensionValue, kSequenceType) != VELKORD_OK) return;
@@ -72,7 +74,8 @@ void CopyItemValue(Bytes extensionValue, uint8_t* value, uint32_t* valueLength) 
   }
 }
 
-// The extensions of a decoded record: the children of the list inside the SEQUENCE around it.
+// Extensions ::= SEQUENCE SIZE (1..MAX) OF Extension
+// The field of a decoded record has another SEQUENCE around them.
 int32_t OpenExtensionList(const Anybuf& field, DerElements& extensions) {
   DerElements outer;
   DerElement list;

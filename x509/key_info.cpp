@@ -1,9 +1,13 @@
-// SubjectPublicKeyInfo and the RSA public key that it can hold.
+// SubjectPublicKeyInfo and the RSA public key that it can contain.
 #include "der/forward.h"
 #include "x509/record.h"
 
 using namespace velkord::internal;
 
+// RSAPublicKey ::= SEQUENCE {
+//   modulus         INTEGER,
+//   publicExponent  INTEGER }
+// Unlike the standard's, elements of any tag are taken; of more than two the last is the exponent.
 int32_t ASN1_SetRSAPublicKey(const Anybuf* modulus, const Anybuf* exponent, Anybuf** out) {
   return JoinPair(modulus, exponent, out);
 }
@@ -24,6 +28,10 @@ int32_t ASN1_GetRSAPublicKey(const Anybuf* source, Anybuf** outModulus, Anybuf**
   return VELKORD_OK;
 }
 
+// SubjectPublicKeyInfo ::= SEQUENCE {
+//   algorithm         AlgorithmIdentifier,
+//   subjectPublicKey  BIT STRING }
+// Unlike the standard's, a key of any tag is read, and further elements are skipped.
 int32_t ASN1_SetSubjectPublicKeyInfo(const Anybuf* algorithm, const Anybuf* key, Anybuf** out) {
   if (algorithm == nullptr || key == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
   const Bytes bits = NodeBytes(*key);

@@ -1,4 +1,4 @@
-// Names: attributes, relative names and whole names.
+// Attributes, relative names and names.
 #include "x509/name.h"
 
 #include "der/forward.h"
@@ -70,6 +70,7 @@ void ASN1_FreeAttributeTypeAndValue(AttributeTypeAndValue* record) {
   FreeRecord<&AttributeTypeAndValue::type, &AttributeTypeAndValue::value>(record);
 }
 
+// RelativeDistinguishedName ::= SET { SEQUENCE { type OBJECT IDENTIFIER, value ANY } }
 int32_t ASN1_GetDerRelativeDistinguishedNameOne(const Anybuf* value, int32_t /*id*/,
                                                 const char* oidText, int32_t oidTextLength,
                                                 Anybuf** out) {
@@ -78,9 +79,9 @@ int32_t ASN1_GetDerRelativeDistinguishedNameOne(const Anybuf* value, int32_t /*i
   VELKORD_TRY(CallerText(oidText, oidTextLength, text));
   if (!IsNameString(value->dataType)) return VELKORD_WRONG_TAG;
   const Bytes valueBytes = NodeBytes(*value);
-  Bytes behindTag = valueBytes;
+  Bytes afterTag = valueBytes;
   uint32_t tag;
-  VELKORD_TRY(DerParseTag(behindTag, tag));
+  VELKORD_TRY(DerParseTag(afterTag, tag));
 
   const uint32_t oidSize = ObjectIdSize(text);
   const DerHeader oid(kObjectId, oidSize);

@@ -1,4 +1,10 @@
 // The attributes of a name as views.
+//
+// RDNSequence ::= SEQUENCE OF RelativeDistinguishedName
+// RelativeDistinguishedName ::= SET SIZE (1..MAX) OF AttributeTypeAndValue
+// AttributeTypeAndValue ::= SEQUENCE {
+//   type   OBJECT IDENTIFIER,
+//   value  ANY DEFINED BY type }
 #ifndef VELKORD_X509_NAME_H_
 #define VELKORD_X509_NAME_H_
 
@@ -11,11 +17,12 @@ struct AttributeView {
   DerElement value;
 };
 
-// Opens the SEQUENCE of an attribute; elements behind the second are passed over.
+// Opens an attribute. Unlike the standard's, its type may have any tag, and elements after the
+// second are skipped.
 // 0; -1, -2 or -7 from the SEQUENCE; -1 for a missing element.
 int32_t OpenAttribute(Bytes in, AttributeView& attribute);
 
-// Opens the first attribute of the SET of a relative name. Codes as above, -1 for an empty SET.
+// Opens the first attribute of a relative name. Codes as above, -1 for an empty SET.
 int32_t OpenFirstAttribute(Bytes in, AttributeView& attribute);
 
 }  // namespace velkord::internal

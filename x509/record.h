@@ -1,4 +1,4 @@
-// What all records share: they hold finished elements, one node a field, and own them.
+// What all records share: each field is a finished element, a node that the record owns.
 #ifndef VELKORD_X509_RECORD_H_
 #define VELKORD_X509_RECORD_H_
 
@@ -27,8 +27,8 @@ void FreeRecord(Record* record) {
   Release(record);
 }
 
-// Sets a field to the node that `make` makes, and releases what stood there. 0, the code of `make`,
-// or -8.
+// Sets a field to the node that `make` makes, and releases the one that it had. 0, the code of
+// `make`, or -8.
 template <typename Record, typename Make>
 int32_t SetField(Record* record, Anybuf* Record::*field, Make make) {
   if (record == nullptr) return VELKORD_NULL_ARGUMENT;
@@ -55,8 +55,8 @@ int32_t SetOptional(Record* record, Anybuf* Record::*field, uint32_t Record::*fl
   return VELKORD_OK;
 }
 
-// What most fields are made of: a copy of an element of any type, and a finished SEQUENCE, its
-// length rewritten in shortest form.
+// How most fields are made: by a copy of an element of any type, or of a finished SEQUENCE, its
+// length in shortest form.
 inline int32_t CopyElement(const Anybuf& value, Anybuf** out) {
   return DerCopyElement(NodeBytes(value), out);
 }
@@ -69,9 +69,9 @@ int32_t SetSequence(Record* record, Anybuf* Record::*field, const Anybuf* value)
   return SetField(record, field, value, CopySequence);
 }
 
-// An element of a record that is to be written: a field, or bytes, none for an absent element.
+// An element of a record to write: a field, or bytes, none of them for an absent element.
 struct Field {
-  // NOLINTNEXTLINE(google-explicit-constructor): a writer's list shows the fields alone.
+  // NOLINTNEXTLINE(google-explicit-constructor): a writer lists just the fields.
   Field(const Anybuf* node) : set(node != nullptr), bytes(set ? NodeBytes(*node) : Bytes()) {}
   // NOLINTNEXTLINE(google-explicit-constructor)
   Field(Bytes element) : set(true), bytes(element) {}
@@ -85,7 +85,7 @@ inline Field FieldIfSet(const Anybuf* node) {
   return node != nullptr ? Field(node) : Field(Bytes());
 }
 
-// An optional field, which its flag alone makes present.
+// An optional field, which is written when its flag is 1.
 inline Field OptionalField(uint32_t flag, const Anybuf* node) {
   return flag == 1 ? Field(node) : Field(Bytes());
 }

@@ -1,6 +1,10 @@
-// The record that certificates, revocation lists, certification requests and extended certificates
-// are at their outermost level: a signed SEQUENCE, the AlgorithmIdentifier and the signature, a BIT
-// STRING.
+// The four signed structures: certificate, revocation list, certification request and extended
+// certificate.
+//
+// SIGNED ::= SEQUENCE {
+//   toBeSigned  SEQUENCE,
+//   algorithm   AlgorithmIdentifier,
+//   signature   BIT STRING }
 #ifndef VELKORD_X509_SIGNED_RECORD_H_
 #define VELKORD_X509_SIGNED_RECORD_H_
 
@@ -32,7 +36,8 @@ struct SignedRecord {
 
   static void Free(Record* record) { FreeRecord<kSigned, kAlgorithm, kSignature>(record); }
 
-  // Elements behind the third are passed over. `makeSignature` makes the signature's node of it.
+  // Unlike the standard's type, elements after the third are skipped, and the third may have any
+  // tag. `makeSignature` makes the signature's node of it.
   static int32_t Decode(const uint8_t* bytes, uint32_t length, Record** out,
                         int32_t (*makeSignature)(const DerElement&, Anybuf**) = CopySignature) {
     return DecodeRecord<Free>(bytes, length, out, [=](Record& record, DerElements& elements) {

@@ -23,12 +23,13 @@ int32_t SetUniqueId(TBSCertificate* record, FieldPointer field, uint32_t TBSCert
   });
 }
 
-// The optional elements by their tag numbers, empty where there is none. Number 0 takes those of
-// any other tag, which nobody reads.
+// The optional elements by their tag numbers, empty where there is none. Number 0 is for those of
+// any other tag, which are not used.
 constexpr size_t kTagNumbers = kExtensionsTag + 1;
 using Optionals = std::array<DerElement, kTagNumbers>;
 
-// The bits of a unique identifier: of a constructed element its first inner element as it stands.
+// UniqueIdentifier ::= BIT STRING
+// Its bits; unlike the standard's, a constructed element's are its first inner element.
 int32_t OpenUniqueId(const DerElement& element, Bytes& bits) {
   if (!IsImplicitConstructed(element.tag)) return DerOpenImplicit(element, bits);
   VELKORD_TRY(DerCheckChildren(element.Content()));
@@ -38,8 +39,8 @@ int32_t OpenUniqueId(const DerElement& element, Bytes& bits) {
   return VELKORD_OK;
 }
 
-// Reads the next element. The low five bits of its first octet alone tell which it is; the last of
-// its kind counts, but each must open.
+// Reads the next element. The low five bits of its first octet decide which it is; of two with one
+// number the last counts, but each must open.
 int32_t NextOptional(DerElements& elements, Optionals& optionals) {
   const uint32_t number = elements.NextOctet() & kTagNumberMask;
   DerElement& element = optionals[number < kTagNumbers ? number : 0];
@@ -81,9 +82,22 @@ int32_t FillOptionals(const Optionals& optionals, TBSCertificate& record) {
   return VELKORD_OK;
 }
 
+// TBSCertificate ::= SEQUENCE {
+//   version               [0] EXPLICIT Version DEFAULT v1,
+//   serialNumber          INTEGER,
+//   signature             AlgorithmIdentifier,
+//   issuer                Name,
+//   validity              Validity,
+//   subject               Name,
+//   subjectPublicKeyInfo  SubjectPublicKeyInfo,
+//   issuerUniqueID        [1] IMPLICIT UniqueIdentifier OPTIONAL,
+//   subjectUniqueID       [2] IMPLICIT UniqueIdentifier OPTIONAL,
+//   extensions            [3] EXPLICIT Extensions OPTIONAL }
+// Unlike the standard's, the version is required, the optional elements may come in any order and
+// form, those of other numbers are skipped, and the extensions come back under SEQUENCE, not [3].
 int32_t Fill(TBSCertificate& record, DerElements& elements) {
   DerElement element;
-  // The first element is the version whatever its tag, which stays.
+  // The first element is the version whatever its tag, and keeps it.
   VELKORD_TRY(elements.Next(element));
   VELKORD_TRY(DerRewrite(ExplicitTag(element.tag), element, &record.versionNode));
   VELKORD_TRY(elements.Next(element));
@@ -176,7 +190,7 @@ int32_t ASN1_TBSCertificateDecode(const Anybuf* source, TBSCertificate** out) {
   if (source == nullptr || out == nullptr) return VELKORD_NULL_ARGUMENT;
   Owned<TBSCertificate, ASN1_FreeTBSCertificate> record;
   const auto read = [&](DerElements& elements) -> int32_t {
-    // Here and not before, since malformed bytes go before a lack of memory.
+    // The record is made here, so that malformed bytes are reported before a lack of memory.
     VELKORD_TRY(CreateRecord(record.Out()));
     return Fill(*record, elements);
   };

@@ -1,4 +1,8 @@
-// Validity: two times.
+// Validity ::= SEQUENCE {
+//   notBefore  Time,
+//   notAfter   Time }
+// Unlike the standard's, elements of any tag are written; of more than two times that are read the
+// last is notAfter.
 #include "der/forward.h"
 #include "der/time.h"
 #include "x509/record.h"
