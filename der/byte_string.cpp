@@ -19,62 +19,25 @@ uint32_t CopyBmpText(Bytes text, uint8_t* out) {
 
 using namespace velkord::internal;
 
-int32_t ASN1_WriteOctetString(const Anybuf* source, Anybuf** out) {
-  return DerBuildFromNode(kOctetString, source, out);
-}
-
-int32_t ASN1_WriteBitString(const Anybuf* source, Anybuf** out) {
-  return DerBuildFromNode(kBitString, source, out);
-}
-
-int32_t ASN1_WriteCharString(const Anybuf* source, Anybuf** out) {
-  return DerBuildFromNode(kPrintableString, source, out);
-}
-
-int32_t ASN1_WriteUTF8String(const Anybuf* source, Anybuf** out) {
-  return DerBuildFromNode(kUtf8String, source, out);
-}
-
-int32_t ASN1_WriteBmpString(const Anybuf* source, Anybuf** out) {
-  return DerBuildFromNode(kBmpString, source, out);
-}
-
-int32_t ASN1_WriteIa5String(const Anybuf* source, Anybuf** out) {
-  return DerBuildFromNode(kIa5String, source, out);
-}
-
-int32_t ASN1_WriteEnumerated(const Anybuf* source, Anybuf** out) {
-  return DerBuildFromNode(kEnumerated, source, out);
-}
+VELKORD_WRITE_NODE(ASN1_WriteOctetString, kOctetString)
+VELKORD_WRITE_NODE(ASN1_WriteBitString, kBitString)
+VELKORD_WRITE_NODE(ASN1_WriteCharString, kPrintableString)
+VELKORD_WRITE_NODE(ASN1_WriteUTF8String, kUtf8String)
+VELKORD_WRITE_NODE(ASN1_WriteBmpString, kBmpString)
+VELKORD_WRITE_NODE(ASN1_WriteIa5String, kIa5String)
+VELKORD_WRITE_NODE(ASN1_WriteEnumerated, kEnumerated)
 
 int32_t ASN1_WritePrintableString(const Anybuf* source, Anybuf** out) {
   const bool isBmp = source != nullptr && source->dataType == kBmpString;
   return isBmp ? ASN1_WriteBmpString(source, out) : ASN1_WriteCharString(source, out);
 }
 
-int32_t ASN1_WriteOctetStringFromBytes(const uint8_t* bytes, uint32_t length, Anybuf** out) {
-  return DerBuildFromBytes(kOctetString, bytes, length, out);
-}
-
-int32_t ASN1_WriteBitStringFromBytes(const uint8_t* bytes, uint32_t length, Anybuf** out) {
-  return DerBuildFromBytes(kBitString, bytes, length, out);
-}
-
-int32_t ASN1_WriteCharStringFromBytes(const uint8_t* bytes, uint32_t length, Anybuf** out) {
-  return DerBuildFromBytes(kPrintableString, bytes, length, out);
-}
-
-int32_t ASN1_WriteUTF8StringFromBytes(const uint8_t* bytes, uint32_t length, Anybuf** out) {
-  return DerBuildFromBytes(kUtf8String, bytes, length, out);
-}
-
-int32_t ASN1_WriteBmpStringFromBytes(const uint8_t* bytes, uint32_t length, Anybuf** out) {
-  return DerBuildFromBytes(kBmpString, bytes, length, out);
-}
-
-int32_t ASN1_WriteIa5StringFromBytes(const uint8_t* bytes, uint32_t length, Anybuf** out) {
-  return DerBuildFromBytes(kIa5String, bytes, length, out);
-}
+VELKORD_WRITE_BYTES(ASN1_WriteOctetStringFromBytes, kOctetString)
+VELKORD_WRITE_BYTES(ASN1_WriteBitStringFromBytes, kBitString)
+VELKORD_WRITE_BYTES(ASN1_WriteCharStringFromBytes, kPrintableString)
+VELKORD_WRITE_BYTES(ASN1_WriteUTF8StringFromBytes, kUtf8String)
+VELKORD_WRITE_BYTES(ASN1_WriteBmpStringFromBytes, kBmpString)
+VELKORD_WRITE_BYTES(ASN1_WriteIa5StringFromBytes, kIa5String)
 
 int32_t ASN1_WritePrintableStringFromBytes(int32_t selector, const uint8_t* bytes, uint32_t length,
                                            Anybuf** out) {

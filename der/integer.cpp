@@ -1,6 +1,7 @@
 // INTEGER as a number of 32 bits and as a magnitude of any size.
 #include "der/integer.h"
 
+#include "der/forward.h"
 #include "platform/memory.h"
 
 namespace velkord::internal {
@@ -47,10 +48,5 @@ int32_t ASN1_ReadInteger(const Anybuf* source, uint32_t* value) {
   return VELKORD_OK;
 }
 
-int32_t ASN1_WriteIntegerArray(const Anybuf* source, Anybuf** out) {
-  return DerBuildFromNode(kInteger, source, out);
-}
-
-int32_t ASN1_WriteIntegerArrayFromBytes(const uint8_t* bytes, uint32_t length, Anybuf** out) {
-  return DerBuildFromBytes(kInteger, bytes, length, out);
-}
+VELKORD_WRITE_NODE(ASN1_WriteIntegerArray, kInteger)
+VELKORD_WRITE_BYTES(ASN1_WriteIntegerArrayFromBytes, kInteger)

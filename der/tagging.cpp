@@ -29,11 +29,9 @@ int32_t ASN1_WriteExplicitFromData(uint32_t tagNumber, const uint8_t* bytes, uin
 }
 
 int32_t ASN1_ReadExplicit(const Anybuf* source, Anybuf** out, uint32_t* outTag) {
-  if (source == nullptr || out == nullptr || outTag == nullptr) return VELKORD_NULL_ARGUMENT;
-  Anybuf* node;
-  VELKORD_TRY(ASN1_ReadBitString(source, &node));
-  *outTag = node->dataType;
-  *out = node;
+  if (outTag == nullptr) return VELKORD_NULL_ARGUMENT;
+  VELKORD_TRY(ASN1_ReadBitString(source, out));
+  *outTag = (*out)->dataType;
   return VELKORD_OK;
 }
 
