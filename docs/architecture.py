@@ -67,7 +67,7 @@ def draw(uses):
                                     (40, "", FOLDERS[folder])):
             shapes.append(f'<text x="{middle:.0f}" y="{y + offset:.0f}" text-anchor="middle"'
                           f'{style}>{text}</text>')
-    names = len((ROOT / "tests/exported_names.txt").read_text().split())
+    names = (ROOT / "include/Velkord.h").read_text().count("\nVELKORD_API ")
     body = "\n".join(shapes)
     return f"""<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 {width} {height}" \
 width="{width}" height="{height}" role="img" font-family="Helvetica, Arial, sans-serif" \

@@ -1,7 +1,7 @@
 """Writes the declarations of the library for C#, Delphi and Python from its header.
 
 They are bindings/csharp/Velkord.cs, bindings/delphi/Velkord.pas and
-bindings/python/velkord_api.py.
+bindings/python/velkord_api.py. The list that the tests are built with comes from here too.
 """
 import argparse
 import difflib
@@ -423,15 +423,37 @@ class Python:
                              "),", 4)
 
 
+def write_lists(items, folder):
+    """All names, and records and functions as macros; a function has its parameters' names."""
+    lines = []
+    for record in of_kind(items, Record):
+        if not record.is_flat():
+            lines.append(f"RECORD({record.name})")
+            lines += [f"FIELD({record.name}, {field.name})" for field in record.fields]
+    functions = of_kind(items, Function)
+    for function in functions:
+        names = " ".join(argument.name for argument in function.arguments)
+        lines.append(f'FUNCTION({function.name}, "{names}")')
+    folder.mkdir(parents=True, exist_ok=True)
+    (folder / "functions.inc").write_text("\n".join(lines) + "\n")
+    (folder / "exported_names.txt").write_text("".join(f.name + "\n" for f in functions))
+
+
 def main():
     parser = argparse.ArgumentParser(
         prog="make-bindings", description=__doc__,
         formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--check", action="store_true",
                         help="write nothing, and fail when a file is not what would be written")
-    check = parser.parse_args().check
+    parser.add_argument("--lists", metavar="FOLDER", type=pathlib.Path,
+                        help="write nothing but the lists for the tests, to a folder")
+    arguments = parser.parse_args()
+    check = arguments.check
 
     items = read_header()
+    if arguments.lists:
+        write_lists(items, arguments.lists)
+        return 0
     status = 0
     for language in (CSharp, Delphi, Python):
         text = "".join(line + "\n" for line in language(items).lines())

@@ -1,25 +1,29 @@
-// Calls of the library's functions by name, with arguments and results as text.
+// Calls of the library's functions by name, with arguments and results as text. A name may be that
+// of a record, which is made, set and written: `Certificate TbsCertificate=30 00; ...`. A setter
+// goes by the end of its name; `field=number` and `field=unset` change a field itself.
 #ifndef VELKORD_TESTS_CALLS_H_
 #define VELKORD_TESTS_CALLS_H_
 
 #include <map>
 
-#include "invocation.h"
+#include "functions.h"
+#include "hex.h"
 
+using Arguments = std::vector<std::string>;
 using Callers = std::map<std::string, std::function<std::string(const Arguments&)>>;
 
+// Those that need more than a call: of certificate inspection.
 extern const Callers kInspectionCallers;
-extern const Callers kRecordCallers;
-
-// The decoder of a SEQUENCE's bytes, which the library has for a node.
-int32_t DecodeTbsCertificate(const uint8_t* bytes, uint32_t length, TBSCertificate** out);
 
 // An inspection record over a subject and extensions.
 using InspectionPtr = std::unique_ptr<X509Cert, FreeWith<X509CertFree>>;
 InspectionPtr Inspect(NodePtr subject, NodePtr extensions);
 
-// The results of a call, or its code. Nodes and bytes are written as in `hex.h`, text as it stands
-// and numbers in decimal or with 0x.
-std::string Call(const std::string& function, const Arguments& arguments);
+// The results of a call, after its code when that is above 0 or goes with results, or the code
+// alone.
+std::string Call(const std::string& name, const Arguments& arguments);
+
+// On the record that the function works on.
+std::string Call(const Function& function, const Arguments& arguments, void* subject);
 
 #endif  // VELKORD_TESTS_CALLS_H_

@@ -3,31 +3,35 @@
 #include <cstdlib>
 #include <fstream>
 
-#include "calls.h"
-
 namespace {
-
-std::vector<std::string> Split(const std::string& text, const std::string& separator) {
-  std::vector<std::string> parts;
-  size_t at = 0;
-  for (size_t end; (end = text.find(separator, at)) != std::string::npos;) {
-    parts.push_back(text.substr(at, end - at));
-    at = end + separator.size();
-  }
-  parts.push_back(text.substr(at));
-  return parts;
-}
 
 // A result with its counts, quoted texts and samples written out in hexadecimal.
 std::string Expand(const std::string& result) {
   std::string text;
   for (const std::string& word : Split(result, " ")) {
-    const bool isShort = word.find_first_of("*\"@") != std::string::npos;
-    const ByteVector bytes = isShort ? FromHex(word) : ByteVector();
-    text += (isShort ? ToHex(bytes.data(), bytes.size()) : word) + ' ';
+    const bool isShort = word.find_first_of("*\"@.") != std::string::npos;
+    const size_t start = isShort ? word.find('=') + 1 : word.size();
+    const ByteVector bytes = FromHex(word.substr(start));
+    text += word.substr(0, start) + ToHex(bytes.data(), bytes.size()) + ' ';
   }
   text.pop_back();
   return text;
+}
+
+using Definitions = std::map<std::string, std::string>;
+
+// A line with the texts that its names stand for.
+std::string Substitute(std::string line, const Definitions& definitions) {
+  for (size_t at = 0; (at = line.find('$', at)) != std::string::npos;) {
+    const size_t end = line.find_first_of(" ;=", at);
+    const auto found = definitions.find(line.substr(at, end - at));
+    if (found == definitions.end()) {
+      ++at;
+    } else {
+      line.replace(at, found->first.size(), found->second);
+    }
+  }
+  return line;
 }
 
 Case Parse(const std::string& line) {
@@ -54,15 +58,22 @@ std::vector<std::filesystem::path> CaseFiles() {
 std::vector<Case> LoadCases(const std::filesystem::path& path) {
   std::vector<Case> cases;
   std::ifstream file(path);
+  Definitions definitions;
   std::string zone;
   int number = 0;
   for (std::string line; std::getline(file, line);) {
-    ++number;
-    if (line.starts_with("TZ=")) zone = line.substr(3);
-    if (line.empty() || line[0] == '#' || line.starts_with("TZ=")) continue;
-    Case& added = cases.emplace_back(Parse(line));
-    added.place = std::to_string(number) + ": " + line;
-    added.zone = zone;
+    const std::string place = std::to_string(++number) + ": " + line;
+    line = Substitute(line, definitions);
+    if (line.starts_with("TZ=")) {
+      zone = line.substr(3);
+    } else if (line.starts_with("$")) {
+      const size_t equals = line.find(" = ");
+      definitions[line.substr(0, equals)] = line.substr(equals + 3);
+    } else if (!line.empty() && line[0] != '#') {
+      Case& added = cases.emplace_back(Parse(line));
+      added.place = place;
+      added.zone = zone;
+    }
   }
   EXPECT_FALSE(cases.empty()) << path;
   return cases;

@@ -1,12 +1,12 @@
 // The cases of the files in `cases/`. A line is `function argument; argument => result`, with
-// several functions, comma between them, where one case holds for all. `TZ=zone` sets the zone of
-// the lines behind it.
+// several functions, comma between them, where one case holds for all. `$name = text` stands for
+// the text wherever `$name` follows, and `TZ=zone` sets the zone of the lines after it.
 #ifndef VELKORD_TESTS_CASES_H_
 #define VELKORD_TESTS_CASES_H_
 
 #include <filesystem>
 
-#include "invocation.h"
+#include "calls.h"
 
 struct Case {
   std::string place;  // The number of its line, and the line.

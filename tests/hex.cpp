@@ -1,5 +1,6 @@
 #include "hex.h"
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <sstream>
@@ -20,6 +21,8 @@ ByteVector Sample(const std::string& place) {
   return {part.begin(), part.end()};
 }
 
+uint32_t ReducedTag(uint8_t tag) { return tag < 0x80 ? tag & 0x1F : tag; }
+
 }  // namespace
 
 ByteVector FromHex(const std::string& hex) {
@@ -33,6 +36,13 @@ ByteVector FromHex(const std::string& hex) {
     if (octet[0] == '@') {
       const ByteVector sample = Sample(octet.substr(1));
       bytes.insert(bytes.end(), sample.begin(), sample.end());
+      continue;
+    }
+    if (octet.find("..") == 2) {
+      const auto last = std::stoul(octet.substr(4), nullptr, 16);
+      for (auto byte = std::stoul(octet, nullptr, 16); byte <= last; ++byte) {
+        bytes.push_back(static_cast<uint8_t>(byte));
+      }
       continue;
     }
     const size_t count = octet.size() > 3 ? std::stoul(octet.substr(3)) : 1;
@@ -67,8 +77,7 @@ NodePtr ToNode(const std::string& text) {
   Anybuf* node = nullptr;
   EXPECT_EQ(ASN1_CreateAnybuf(bytes.data(), Size(bytes), 0, &node), 0);
   if (colon == std::string::npos) {
-    const uint32_t tag = bytes.empty() ? 0 : bytes[0];
-    node->dataType = tag < 0x80 ? tag & 0x1F : tag;
+    node->dataType = bytes.empty() ? 0 : ReducedTag(bytes[0]);
   } else {
     const size_t slash = text.find('/');
     node->dataType = static_cast<uint32_t>(std::stoul(text));
@@ -83,22 +92,47 @@ NodePtr Sequence(const std::string& elements) {
   return NodePtr(node);
 }
 
-std::string Describe(const Anybuf* chain) {
+std::string Describe(const Anybuf* chain, bool isShort) {
+  ExpectWhole(chain);
   std::string text;
-  const Anybuf* last = nullptr;
-  for (const Anybuf* node = chain; node != nullptr; last = node, node = node->next) {
-    EXPECT_EQ(node->memKind, 2U);
-    EXPECT_EQ(node->prev, last);
-    if (last != nullptr) text += " | ";
-    text += std::to_string(node->dataType);
+  for (const Anybuf* node = chain; node != nullptr; node = node->next) {
+    if (node != chain) text += " | ";
+    const bool isPlain = isShort && node->dataLen > 0 && node->unusedBits == 0 &&
+                         node->dataType == ReducedTag(node->data[0]);
+    if (!isPlain) text += std::to_string(node->dataType);
     if (node->unusedBits != 0) text.append("/").append(std::to_string(node->unusedBits));
-    text.append(": ").append(ToHex(node->data, node->dataLen));
+    if (!isPlain) text += ": ";
+    text += ToHex(node->data, node->dataLen);
   }
   return chain == nullptr ? "none" : text;
 }
 
+void ExpectWhole(const Anybuf* chain) {
+  const Anybuf* last = nullptr;
+  for (const Anybuf* node = chain; node != nullptr; last = node, node = node->next) {
+    EXPECT_EQ(node->memKind, 2U);
+    EXPECT_EQ(node->prev, last);
+  }
+}
+
+std::vector<std::string> Split(const std::string& text, const std::string& separator) {
+  std::vector<std::string> parts;
+  size_t at = 0;
+  for (size_t end; (end = text.find(separator, at)) != std::string::npos;) {
+    parts.push_back(text.substr(at, end - at));
+    at = end + separator.size();
+  }
+  parts.push_back(text.substr(at));
+  return parts;
+}
+
+bool Buffer::IsUntouched(size_t from) const {
+  return std::all_of(bytes.begin() + static_cast<ptrdiff_t>(from), bytes.end(),
+                     [](uint8_t byte) { return byte == kUntouched; });
+}
+
 std::string Buffer::Text() const {
   const size_t written = size == kNoSize ? 0 : size;
-  for (size_t at = written; at < bytes.size(); ++at) EXPECT_EQ(bytes[at], kUntouched) << at;
+  EXPECT_TRUE(IsUntouched(written));
   return size == kNoSize ? "kept" : ToHex(bytes.data(), written);
 }

@@ -27,8 +27,8 @@ using TbsPtr = std::unique_ptr<TBSCertificate, FreeWith<ASN1_FreeTBSCertificate>
 using CertificatePtr = std::unique_ptr<Certificate, FreeWith<ASN1_FreeCertificate>>;
 
 // Hexadecimal octets with blanks between them, "05 00", to bytes and back. `FF*200` is 200 octets,
-// `"CN"` the octets of a text without blanks, and `@name:4:20` 20 bytes of a sample file from the
-// fourth on, or the whole file without the numbers.
+// `01..20` the octets from 01 up to 20, `"CN"` the octets of a text without blanks, and
+// `@name:4:20` 20 bytes of a sample file from the fourth on, or the whole file without the numbers.
 ByteVector FromHex(const std::string& hex);
 std::string ToHex(const uint8_t* bytes, size_t size);
 
@@ -45,8 +45,14 @@ NodePtr Sequence(const std::string& elements);
 // The bytes of a node as text.
 inline std::string Hex(const NodePtr& node) { return ToHex(node->data, node->dataLen); }
 
-// A chain as text, its nodes as above with " | " between them.
-std::string Describe(const Anybuf* chain);
+// A chain as text, its nodes as above with " | " between them; `isShort` leaves out the type of the
+// first octet.
+std::string Describe(const Anybuf* chain, bool isShort = false);
+
+// Expects the links and the `memKind` of a chain that the library made.
+void ExpectWhole(const Anybuf* chain);
+
+std::vector<std::string> Split(const std::string& text, const std::string& separator);
 
 // Leaves blocks behind that hold no zero, for the next requests of their size.
 inline void DirtyHeap(size_t size) {
@@ -75,12 +81,15 @@ std::string Made(int32_t (*function)(Parameters...), In... in) {
 struct Buffer {
   static constexpr uint8_t kUntouched = 0xEE;
   static constexpr uint32_t kNoSize = 0xEEEE;
-  ByteVector bytes = ByteVector(1500, kUntouched);
-  uint32_t size = kNoSize;
+  explicit Buffer(size_t room = 1500) : bytes(room, kUntouched) {}
 
   uint8_t* Data() { return bytes.data(); }
-  // Its content, `kept` when no size was set. Nothing may be written behind that.
+  bool IsUntouched(size_t from) const;
+  // Its content, `kept` when no size was set. Nothing may be written after that.
   std::string Text() const;
+
+  ByteVector bytes;
+  uint32_t size = kNoSize;
 };
 
 #endif  // VELKORD_TESTS_HEX_H_

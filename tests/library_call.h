@@ -11,14 +11,14 @@ using AnyFunction = void (*)();
 using LibraryCall = std::function<int32_t()>;
 using Check = std::function<void()>;
 
-inline int32_t (*callHook)(AnyFunction, const LibraryCall&, const Check&) =
-    [](AnyFunction, const LibraryCall& call, const Check&) { return call(); };
+inline int32_t (*callHook)(AnyFunction, const LibraryCall&, const Check&) = nullptr;
 
 // Gives the code of `call`, which calls `function`. After a failure `isAsBefore` expects that
 // nothing has changed.
 template <typename Function>
 int32_t CallLibrary(Function* function, const LibraryCall& call, const Check& isAsBefore) {
-  const int32_t code = callHook(reinterpret_cast<AnyFunction>(function), call, isAsBefore);
+  const auto address = reinterpret_cast<AnyFunction>(function);
+  const int32_t code = callHook ? callHook(address, call, isAsBefore) : call();
   if (code < 0) isAsBefore();
   return code;
 }

@@ -1,0 +1,126 @@
+#include "functions.h"
+
+#include <cstring>
+#include <map>
+
+#include "invocation.h"
+
+namespace {
+
+constexpr int32_t kFailure = VELKORD_FAILURE;
+constexpr int32_t kNull = VELKORD_NULL_ARGUMENT;
+
+// The first whose prefix fits counts.
+constexpr Rule kRules[] = {
+    {"ASN1_SM2_", 0, Writes::kAllOrNone},
+    {"ASN1_OBJECT_a2d", 0, Writes::kAllOrNone, "", true},
+    {"ASN1_EccPubkey2Der", kFailure},
+    {"ASN1_Der2Ecc", kFailure},
+    {"ZantEncode", kFailure, Writes::kAllOrNone, "der"},
+    {"ZantDecode", kFailure, Writes::kAll, "", true},
+    {"X509CertGetOIDValue", kFailure, Writes::kAllOrNone},
+    {"ASN1_ReadImplicit", kNull, Writes::kAll, "", true},
+    {"ASN1_GetExtension", kNull, Writes::kSome},
+    {"ASN1_GetAlgorithmIdentifier", kNull, Writes::kAll, "outOid outSequence outParameterOid"},
+    {"ASN1_", kNull},
+    {"uniToUTF8", Rule::kTakesNoNull, Writes::kAll, "out"},
+    {"", Rule::kTakesNoNull, Writes::kAllOrNone},
+};
+
+template <typename Parameter>
+constexpr bool kIsTaken =
+    !std::is_same_v<Parameter, Anybuf*> && !std::is_same_v<Parameter, uint8_t**> &&
+    !std::is_same_v<Parameter, uint32_t**> && !std::is_same_v<Parameter, X509Cert**>;
+
+template <typename Result, typename First, typename... Rest>
+void Classify(Function& entry, Result (*function)(First, Rest...)) {
+  using Pointee = std::remove_pointer_t<First>;
+  using Object = std::remove_const_t<Pointee>;
+  if constexpr (kOwnsNodes<Object>) {
+    RecordType& type = TypeOf<Object>();
+    if constexpr (std::is_void_v<Result>) {
+      type.release = [=](void* record) { function(static_cast<Object*>(record)); };
+      return;
+    } else {
+      entry.subject = &type;
+      if (!std::is_const_v<Pointee>) type.setters.push_back(&entry);
+      if (std::is_same_v<std::tuple<Rest...>, std::tuple<Anybuf**>>) type.write = &entry;
+    }
+  } else if constexpr (std::is_pointer_v<Object> && std::is_same_v<Result, int32_t>) {
+    if constexpr (kOwnsNodes<std::remove_pointer_t<Object>>) {
+      TypeOf<std::remove_pointer_t<Object>>().create = [=](void** out) {
+        return function(reinterpret_cast<Object*>(out));
+      };
+    }
+  }
+  if constexpr (kIsTaken<First> && (kIsTaken<Rest> && ...)) {
+    entry.run = [=](Invocation& call) { return call.Apply(function); };
+  }
+}
+
+struct Lists {
+  Lists() {
+    functions.reserve(1000);
+#define RECORD(record)                \
+  types[#record] = &TypeOf<record>(); \
+  types[#record]->size = sizeof(record);
+#define FIELD(record, field)                                                                \
+  types[#record]->fields.push_back({#field, offsetof(record, field), sizeof(record::field), \
+                                    std::is_same_v<decltype(record::field), Anybuf*>,       \
+                                    std::is_integral_v<decltype(record::field)>});
+#define FUNCTION(name, parameters) Add(#name, Split(parameters, " "), name);
+#include "functions.inc"
+  }
+
+  template <typename Type>
+  void Add(const std::string& name, std::vector<std::string> parameters, Type* function) {
+    const Rule* rule = kRules;
+    while (!name.starts_with(rule->prefix)) ++rule;
+    const auto address = reinterpret_cast<AnyFunction>(function);
+    names[name] = addresses[address] =
+        &functions.emplace_back(Function{name, std::move(parameters), address, rule, nullptr, {}});
+    Classify(functions.back(), function);
+  }
+
+  std::vector<Function> functions;
+  std::map<std::string, const Function*> names;
+  std::map<AnyFunction, const Function*> addresses;
+  std::map<std::string, RecordType*> types;
+};
+
+const Lists& AllLists() {
+  static const Lists lists;
+  return lists;
+}
+
+template <typename Map>
+auto Find(const Map& map, const typename Map::key_type& key) {
+  const auto found = map.find(key);
+  return found == map.end() ? nullptr : found->second;
+}
+
+}  // namespace
+
+const std::vector<Function>& Functions() { return AllLists().functions; }
+const Function& FindFunction(AnyFunction address) { return *AllLists().addresses.at(address); }
+const Function* FindFunction(const std::string& name) { return Find(AllLists().names, name); }
+const RecordType* FindRecordType(const std::string& name) { return Find(AllLists().types, name); }
+
+std::string RecordType::Describe(const void* record) const {
+  std::string text;
+  ByteVector between(static_cast<const uint8_t*>(record),
+                     static_cast<const uint8_t*>(record) + size);
+  for (const Field& field : fields) {
+    const uint8_t* place = static_cast<const uint8_t*>(record) + field.offset;
+    std::fill_n(&between[field.offset], field.size, uint8_t{0});
+    std::string value = "0";
+    if (field.isNode) {
+      value = ::Describe(*reinterpret_cast<Anybuf* const*>(place), true);
+    } else if (field.isNumber) {
+      value = std::to_string(*reinterpret_cast<const int32_t*>(place));
+    }
+    if (value != "none" && value != "0") text += field.name + "=" + value + " ";
+  }
+  EXPECT_EQ(between, ByteVector(size));
+  return text;
+}

@@ -1,0 +1,65 @@
+// All functions of the library and the records that they work on, as scripts/bindings.py lists them
+// from the header, with what is special about some.
+#ifndef VELKORD_TESTS_FUNCTIONS_H_
+#define VELKORD_TESTS_FUNCTIONS_H_
+
+#include <string>
+#include <vector>
+
+#include "library_call.h"
+
+class Invocation;
+struct Function;
+
+// Which out arguments a success writes.
+enum class Writes { kAll, kAllOrNone, kSome };
+
+// What a family of functions does in its own way.
+struct Rule {
+  static constexpr int32_t kTakesNoNull = 1;
+
+  const char* prefix;            // Of the functions' names.
+  int32_t refusal;               // The code where a null pointer stands for an out argument.
+  Writes writes = Writes::kAll;  //
+  const char* mayBeNull = "";    // The out arguments that are not required.
+  bool writesBeforeFailing = false;
+};
+
+// A record that owns nodes.
+struct RecordType {
+  struct Field {
+    std::string name;
+    size_t offset;
+    size_t size;
+    bool isNode;
+    bool isNumber;
+  };
+
+  // The fields that are not zero, by their names. All bytes between fields must be zero.
+  std::string Describe(const void* record) const;
+
+  size_t size = 0;
+  std::vector<Field> fields;
+  std::function<int32_t(void**)> create;
+  std::function<void(void*)> release;
+  const Function* write = nullptr;
+  std::vector<const Function*> setters;
+};
+
+struct Function {
+  std::string name;
+  std::vector<std::string> parameters;
+  AnyFunction address;
+  const Rule* rule;
+  RecordType* subject = nullptr;            // The record that it works on.
+  std::function<int32_t(Invocation&)> run;  // Empty for the few that no Invocation calls.
+};
+
+const std::vector<Function>& Functions();
+const Function& FindFunction(AnyFunction address);
+
+// Null for an unknown name.
+const Function* FindFunction(const std::string& name);
+const RecordType* FindRecordType(const std::string& name);
+
+#endif  // VELKORD_TESTS_FUNCTIONS_H_
