@@ -1,9 +1,9 @@
-// Every input of up to a number of bytes through a target, each in a block of its own size.
+// Every input of up to a number of bytes through a target.
 // Usage: exhaust_TARGET LENGTH [SLICE OF]
-#include <cstring>
-#include <memory>
+#include <cstdio>
+#include <cstdlib>
 
-#include "require.h"
+#include "call.h"
 
 namespace {
 
@@ -15,12 +15,11 @@ struct Slice {
 // Runs the inputs of one length whose first byte is of the slice, and gives their number.
 size_t RunLength(size_t length, Slice slice) {
   size_t count = 0;
-  const size_t inputs = size_t{1} << 8 * length;
-  for (size_t input = 0; input < inputs; ++input) {
+  ByteVector bytes(length);
+  for (size_t input = 0; input < size_t{1} << 8 * length; ++input) {
     if ((input & 0xFF) % slice.of != slice.number) continue;
-    const std::unique_ptr<uint8_t[]> block(new uint8_t[length]);
-    for (size_t at = 0; at < length; ++at) block[at] = static_cast<uint8_t>(input >> 8 * at);
-    LLVMFuzzerTestOneInput(block.get(), length);
+    for (size_t at = 0; at < length; ++at) bytes[at] = static_cast<uint8_t>(input >> 8 * at);
+    LLVMFuzzerTestOneInput(bytes.data(), length);
     if (++count % (1 << 20) == 0) {
       std::printf("length %zu, slice %zu: %zu inputs\n", length, slice.number, count);
       std::fflush(stdout);

@@ -423,20 +423,17 @@ class Python:
                              "),", 4)
 
 
-def write_lists(items, folder):
-    """All names, and records and functions as macros; a function has its parameters' names."""
+def write_list(items, path):
+    """Records and functions as macros; a function has its parameters' names."""
     lines = []
     for record in of_kind(items, Record):
         if not record.is_flat():
             lines.append(f"RECORD({record.name})")
             lines += [f"FIELD({record.name}, {field.name})" for field in record.fields]
-    functions = of_kind(items, Function)
-    for function in functions:
+    for function in of_kind(items, Function):
         names = " ".join(argument.name for argument in function.arguments)
         lines.append(f'FUNCTION({function.name}, "{names}")')
-    folder.mkdir(parents=True, exist_ok=True)
-    (folder / "functions.inc").write_text("\n".join(lines) + "\n")
-    (folder / "exported_names.txt").write_text("".join(f.name + "\n" for f in functions))
+    path.write_text("\n".join(lines) + "\n")
 
 
 def main():
@@ -445,14 +442,14 @@ def main():
         formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--check", action="store_true",
                         help="write nothing, and fail when a file is not what would be written")
-    parser.add_argument("--lists", metavar="FOLDER", type=pathlib.Path,
-                        help="write nothing but the lists for the tests, to a folder")
+    parser.add_argument("--list", metavar="FILE", type=pathlib.Path,
+                        help="write nothing but the list for the tests, to a file")
     arguments = parser.parse_args()
     check = arguments.check
 
     items = read_header()
-    if arguments.lists:
-        write_lists(items, arguments.lists)
+    if arguments.list:
+        write_list(items, arguments.list)
         return 0
     status = 0
     for language in (CSharp, Delphi, Python):

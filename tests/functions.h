@@ -42,6 +42,7 @@ struct RecordType {
   std::vector<Field> fields;
   std::function<int32_t(void**)> create;
   std::function<void(void*)> release;
+  std::function<void(void*)> restore;  // Of fuzzers: makes it one that is written as it was read.
   const Function* write = nullptr;
   std::vector<const Function*> setters;
 };

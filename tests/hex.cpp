@@ -1,6 +1,5 @@
 #include "hex.h"
 
-#include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <sstream>
@@ -20,8 +19,6 @@ ByteVector Sample(const std::string& place) {
   const std::string part = content.substr(offset, size);
   return {part.begin(), part.end()};
 }
-
-uint32_t ReducedTag(uint8_t tag) { return tag < 0x80 ? tag & 0x1F : tag; }
 
 }  // namespace
 
@@ -64,6 +61,18 @@ std::string ToHex(const uint8_t* bytes, size_t size) {
   return hex;
 }
 
+uint32_t ReducedTag(std::span<const uint8_t> bytes) {
+  if (bytes.empty()) return 0;
+  return bytes[0] < 0x80 ? bytes[0] & 0x1F : bytes[0];
+}
+
+NodePtr MakeNode(const ByteVector& bytes) {
+  Anybuf* node = nullptr;
+  EXPECT_EQ(ASN1_CreateAnybuf(bytes.data(), Size(bytes), 0, &node), 0);
+  node->dataType = ReducedTag(bytes);
+  return NodePtr(node);
+}
+
 NodePtr ToNode(const std::string& text) {
   if (text == "none") return nullptr;
   if (const size_t bar = text.find(" | "); bar != std::string::npos) {
@@ -73,17 +82,13 @@ NodePtr ToNode(const std::string& text) {
     return head;
   }
   const size_t colon = text.find(": ");
-  const ByteVector bytes = FromHex(colon == std::string::npos ? text : text.substr(colon + 1));
-  Anybuf* node = nullptr;
-  EXPECT_EQ(ASN1_CreateAnybuf(bytes.data(), Size(bytes), 0, &node), 0);
-  if (colon == std::string::npos) {
-    node->dataType = bytes.empty() ? 0 : ReducedTag(bytes[0]);
-  } else {
+  NodePtr node = MakeNode(FromHex(colon == std::string::npos ? text : text.substr(colon + 1)));
+  if (colon != std::string::npos) {
     const size_t slash = text.find('/');
     node->dataType = static_cast<uint32_t>(std::stoul(text));
     if (slash < colon) node->unusedBits = static_cast<uint32_t>(std::stoul(text.substr(slash + 1)));
   }
-  return NodePtr(node);
+  return node;
 }
 
 NodePtr Sequence(const std::string& elements) {
@@ -98,7 +103,7 @@ std::string Describe(const Anybuf* chain, bool isShort) {
   for (const Anybuf* node = chain; node != nullptr; node = node->next) {
     if (node != chain) text += " | ";
     const bool isPlain = isShort && node->dataLen > 0 && node->unusedBits == 0 &&
-                         node->dataType == ReducedTag(node->data[0]);
+                         node->dataType == ReducedTag({node->data, node->dataLen});
     if (!isPlain) text += std::to_string(node->dataType);
     if (node->unusedBits != 0) text.append("/").append(std::to_string(node->unusedBits));
     if (!isPlain) text += ": ";
@@ -127,8 +132,10 @@ std::vector<std::string> Split(const std::string& text, const std::string& separ
 }
 
 bool Buffer::IsUntouched(size_t from) const {
-  return std::all_of(bytes.begin() + static_cast<ptrdiff_t>(from), bytes.end(),
-                     [](uint8_t byte) { return byte == kUntouched; });
+  // All are the first one when each is the one after it.
+  const uint8_t* rest = bytes.data() + from;
+  return from == bytes.size() || (from < bytes.size() && *rest == kUntouched &&
+                                  std::memcmp(rest, rest + 1, bytes.size() - from - 1) == 0);
 }
 
 std::string Buffer::Text() const {

@@ -6,6 +6,7 @@
 
 #include <cstring>
 #include <memory>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -38,6 +39,10 @@ inline uint32_t Size(const ByteVector& bytes) { return static_cast<uint32_t>(byt
 // type, `3/4: F0` with a type and unused bits, or `none`; several with " | " between them are a
 // chain. Its block has exactly the bytes' size.
 NodePtr ToNode(const std::string& text);
+
+// A node over bytes, with the reduced tag of the first octet as type.
+NodePtr MakeNode(const ByteVector& bytes);
+uint32_t ReducedTag(std::span<const uint8_t> bytes);
 
 // One SEQUENCE over elements.
 NodePtr Sequence(const std::string& elements);
@@ -83,7 +88,11 @@ struct Buffer {
   static constexpr uint32_t kNoSize = 0xEEEE;
   explicit Buffer(size_t room = 1500) : bytes(room, kUntouched) {}
 
-  uint8_t* Data() { return bytes.data(); }
+  // No null pointer, even without any room.
+  uint8_t* Data() {
+    bytes.reserve(1);
+    return bytes.data();
+  }
   bool IsUntouched(size_t from) const;
   // Its content, `kept` when no size was set. Nothing may be written after that.
   std::string Text() const;

@@ -34,8 +34,9 @@ uint8_t* Invocation::TakeBuffer(Kind kind, uint32_t fixedSize) {
   Out* out = Add(kind);
   Out& added = outs_[outCount_ - 1];
   added.fixedSize = fixedSize;
-  added.buffer = Buffer(in_.Room(function_));
   added.isSized = sizeIsNext_ = isSize_[at_];
+  const bool isFixed = fixedSize != 0 && !added.isSized && !isInteger_[at_];
+  added.buffer = Buffer(isFixed ? fixedSize : in_.Room(function_));
   return out ? out->buffer.Data() : nullptr;
 }
 
@@ -52,7 +53,7 @@ bool Invocation::IsNulled() {
 }
 
 void Invocation::ExpectKept() const {
-  for (const Out& out : outs_) {
+  for (const Out& out : std::span(outs_).first(outCount_)) {
     const bool isObject = out.kind == Kind::kNode || out.kind == Kind::kRecord;
     if (isObject || !function_.rule->writesBeforeFailing) {
       EXPECT_TRUE(!out.IsWritten() && out.buffer.IsUntouched(0));
@@ -68,12 +69,14 @@ void Invocation::Settle(int32_t code) {
   if (code != 0 || nulled_ != kNone || function_.rule->writes == Writes::kSome) return;
   const auto written = std::count_if(outs_.begin(), outs_.end(), std::mem_fn(&Out::IsWritten));
   EXPECT_TRUE(written == static_cast<ptrdiff_t>(outCount_) ||
-              (written == 0 && function_.rule->writes == Writes::kAllOrNone));
+              (written == 0 && function_.rule->writes == Writes::kAllOrNone))
+      << function_.name;
 }
 
 void Invocation::Out::Settle(int32_t code, const Rule& rule) {
   if (kind == Kind::kNode && IsWritten()) ExpectWhole(static_cast<Anybuf*>(object));
-  if (kind == Kind::kBytes && !isSized && !buffer.IsUntouched(0)) {
+  const bool mustWrite = code == 0 && rule.writes == Writes::kAll;
+  if (kind == Kind::kBytes && !isSized && (mustWrite || !buffer.IsUntouched(0))) {
     buffer.size = code > 0 ? static_cast<uint32_t>(code) : fixedSize;
   }
   size_t end = buffer.size == Buffer::kNoSize ? 0 : buffer.size;
@@ -122,6 +125,7 @@ ByteVector Invocation::Out::Bytes() const {
     const auto* octets = reinterpret_cast<const uint8_t*>(&number);
     bytes.assign(octets, octets + sizeof number);
   } else if (kind == Kind::kRecord) {
+    if (type->restore) type->restore(object);
     NoInputs none;
     Invocation write(*type->write, none, object);
     if (write.Run() == 0) bytes = write.outs_[0].Bytes();

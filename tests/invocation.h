@@ -135,7 +135,8 @@ class Invocation {
   }
   const int32_t* Take(const int32_t**) { return &(time_ = static_cast<int32_t>(in_.Number())); }
   const Anybuf* Take(const Anybuf**) { return in_.Node(); }
-  const uint8_t* Take(const uint8_t**) { return Take(in_.Bytes(0)); }
+  // A pointer without a length is to one byte.
+  const uint8_t* Take(const uint8_t**) { return Take(in_.Bytes(isInteger_[at_] ? 0 : 1)); }
   const char* Take(const char**) {
     return reinterpret_cast<const char*>(Take(in_.Text(!isInteger_[at_])));
   }

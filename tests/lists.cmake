@@ -1,10 +1,13 @@
-# The functions and records of the library for the tests and fuzzers, from the header.
+# The list of the library's functions and records that tests and fuzzers are built with, from the
+# header.
 include_guard(GLOBAL)
 find_package(Python3 REQUIRED COMPONENTS Interpreter)
 set(lists ${PROJECT_BINARY_DIR}/lists)
+file(MAKE_DIRECTORY ${lists})
 add_custom_command(
-  OUTPUT ${lists}/functions.inc ${lists}/exported_names.txt
-  COMMAND Python3::Interpreter ${PROJECT_SOURCE_DIR}/scripts/bindings.py --lists ${lists}
+  OUTPUT ${lists}/functions.inc
+  COMMAND Python3::Interpreter ${PROJECT_SOURCE_DIR}/scripts/bindings.py
+          --list ${lists}/functions.inc
   DEPENDS ${PROJECT_SOURCE_DIR}/include/Velkord.h ${PROJECT_SOURCE_DIR}/scripts/bindings.py
 )
-add_custom_target(lists DEPENDS ${lists}/functions.inc ${lists}/exported_names.txt)
+add_custom_target(lists DEPENDS ${lists}/functions.inc)
