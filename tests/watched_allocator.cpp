@@ -12,24 +12,16 @@ void* __real_calloc(size_t count, size_t size);
 void __real_free(void* block);
 void __real_tzset();
 
-}  // extern "C"
-
-namespace {
-
-bool Refused() { return watch.on && ++watch.requests == watch.failing; }
+static bool Refused() { return watch.on && ++watch.requests == watch.failing; }
 
 // The map may request memory by the same functions.
-void* Noted(void* block, size_t size) {
+static void* Noted(void* block, size_t size) {
   if (std::exchange(watch.on, false)) {
     watch.blocks[block] = size;
     watch.on = true;
   }
   return block;
 }
-
-}  // namespace
-
-extern "C" {
 
 void* __wrap_malloc(size_t size) { return Refused() ? nullptr : Noted(__real_malloc(size), size); }
 
