@@ -9,6 +9,7 @@
 #include "velkord.hpp"
 #include "watched_allocator.h"
 
+// So `new` makes blocks of the C allocator.
 void* operator new(size_t size) {
   void* const block = std::malloc(size);
   if (block == nullptr) throw std::bad_alloc();
@@ -26,11 +27,6 @@ Node Nodes(const std::string& text) { return Node(ToNode(text).release()); }
 
 Node Number(uint32_t value) { return Make("write a number", ASN1_WriteInteger, value); }
 
-template <typename Object = uint8_t>
-Object* Block() {
-  return static_cast<Object*>(std::calloc(1, sizeof(Object)));
-}
-
 // Whatever a test requests it releases.
 class Interface : public testing::Test {
   void SetUp() override {
@@ -43,27 +39,17 @@ class Interface : public testing::Test {
   }
 };
 
-// A record that owns a node is moved and released.
-template <typename Object>
-void MoveAndFree(int32_t (*create)(Object**), Anybuf* Object::*field) {
-  Handle<Object> record = Make("create a record", create);
-  velkord::Check(ASN1_WriteNull(&((*record).*field)), "fill a field");
-  const Handle<Object> other = std::move(record);
+template <typename... Create>
+void MakeAndFree(Create*... create) {
+  (static_cast<void>(Make("create a record", create)), ...);
 }
 
 TEST_F(Interface, FreesEachType) {
-  MoveAndFree(ASN1_CreateTBSCertificate, &TBSCertificate::subject);
-  MoveAndFree(ASN1_CreateCertificate, &Certificate::signatureValue);
-  MoveAndFree(ASN1_CRL_CreateRevokedCertificate, &RevokedCertificate::revocationDate);
-  MoveAndFree(ASN1_CRL_CreateTbsCertList, &TbsCertList::issuer);
-  MoveAndFree(ASN1_CRL_CreateCertificateList, &CertificateList::signatureValue);
-  MoveAndFree(ASN1_CreatePKCS10, &PKCS10::subject);
-  MoveAndFree(ASN1_CreatePKCS10Request, &PKCS10Request::signature);
-  MoveAndFree(ASN1_PKCS6_CreateExtendedCertificateInfo, &ExtendedCertificateInfo::certificate);
-  MoveAndFree(ASN1_PKCS6_CreateExtendedCertificate, &ExtendedCertificate::signature);
-  MoveAndFree(ASN1_PKCS7_CreateContext, &PKCS7Context::content);
+  MakeAndFree(ASN1_CreateTBSCertificate, ASN1_CreateCertificate, ASN1_CRL_CreateRevokedCertificate,
+              ASN1_CRL_CreateTbsCertList, ASN1_CRL_CreateCertificateList, ASN1_CreatePKCS10,
+              ASN1_CreatePKCS10Request, ASN1_PKCS6_CreateExtendedCertificateInfo,
+              ASN1_PKCS6_CreateExtendedCertificate, ASN1_PKCS7_CreateContext);
   const Node id = Nodes("06 01 2A");
-  const auto identifier = Make("read an identifier", ASN1_ReadObjectId, id.get());
   const auto attribute = Make("pair them", ASN1_SetAttributeTypeAndValue, id.get(), id.get());
 }
 
@@ -73,36 +59,32 @@ TEST_F(Interface, FreesAllThatAnInspectionRecordHolds) {
   const Handle<X509Cert> record(X509CertCreate(&out));
   EXPECT_EQ(record.get(), out);
   record->tbs = Make("create a record", ASN1_CreateTBSCertificate).release();
+  record->tbs->subject = Number(5).release();
   for (uint8_t** block :
        {&record->block1, &record->block2, &record->block3, &record->block4, &record->block5}) {
-    *block = Block();
+    *block = new uint8_t;
   }
-  record->entriesA = Block<CertEntry>();
-  record->entriesA->next = Block<CertEntry>();
-  record->entriesA->next->oid = Block();
-  record->entriesB = Block<CertWideEntry>();
-  record->entriesB->block3 = Block();
-  record->entriesB->next = Block<CertWideEntry>();
-  record->entriesB->next->block1 = Block();
+  for (CertEntry** list : {&record->entriesA, &record->subjectEntries}) {
+    *list = new CertEntry{new uint8_t, 0, nullptr, 0,
+                          new CertEntry{nullptr, 0, new uint8_t, 0, nullptr}};
+  }
+  record->entriesB = new CertWideEntry{
+      nullptr, 0, new uint8_t, 0, 0, new CertWideEntry{new uint8_t, 0, nullptr, 0, 0, nullptr}};
   X509CertFree(nullptr);
   ASN1_FreeObjectID(nullptr);
 }
 
-TEST_F(Interface, LeavesTheHandleAloneWhenTheCallFails) {
-  Node node = Number(5);
-  const Anybuf* const before = node.get();
-  EXPECT_EQ(ASN1_ReadSequence(before, Out(node)), VELKORD_WRONG_TAG);
-  EXPECT_THROW(std::ignore = Make("split", ASN1_ReadSequence, before), std::system_error);
-  EXPECT_EQ(node.get(), before);
-  EXPECT_EQ(Describe(before), "2: 02 01 05");
-}
-
-// The source is the handle's own object, so that it has to live until the call has ended.
+// The source is the handle's own object, so that it has to live until the call has ended. A call
+// that fails leaves the handle alone.
 TEST_F(Interface, ReplacesTheObjectWhenTheCallSucceeds) {
   for (const std::string children : {"2: 02 01 05 | 2: 02 01 06", "none"}) {
     Node node(Sequence(children).release());
     EXPECT_EQ(ASN1_ReadSequence(node.get(), Out(node)), VELKORD_OK);
-    EXPECT_EQ(Describe(node.get()), children);
+    const Anybuf* const before = node.get();
+    EXPECT_LT(ASN1_ReadSequence(before, Out(node)), VELKORD_OK);
+    EXPECT_THROW(std::ignore = Make("split", ASN1_ReadSequence, before), std::system_error);
+    EXPECT_EQ(node.get(), before);
+    EXPECT_EQ(Describe(before), children);
   }
 }
 
@@ -118,18 +100,13 @@ TEST_F(Interface, ShowsTheBytesOfNodesRecordsAndTexts) {
 }
 
 TEST_F(Interface, ShowsChainsAsRanges) {
-  static_assert(std::forward_iterator<Chain<const Anybuf>::Iterator>);
+  static_assert(std::forward_iterator<Chain<CertEntry>::Iterator>);
   const Node three = Nodes("02 01 05 | 05 00 | 04 00");
   const Chain chain(three.get());
   auto at = chain.begin();
   EXPECT_EQ(&*at++, three.get());
   EXPECT_EQ(at->dataType, 5U);
   EXPECT_EQ(std::distance(at, chain.end()), 2);
-  CertEntry last{};
-  CertEntry first{};
-  first.next = &last;
-  for (CertEntry& entry : Chain(&first)) entry.oidLen = 5;
-  EXPECT_EQ(first.oidLen + last.oidLen, 10U);
 }
 
 // `Describe` looks at the links in both directions.
@@ -138,9 +115,7 @@ TEST_F(Interface, BuildsChainsOfNodesAndChains) {
   builder.Append(Nodes("05 00 | 04 00"));
   builder.Append(nullptr);
   builder.Append(Number(2));
-  EXPECT_EQ(Describe(builder.Head()), "2: 02 01 01 | 5: 05 00 | 4: 04 00 | 2: 02 01 02");
-  const Node taken = builder.Take();
-  EXPECT_EQ(Describe(taken.get()), "2: 02 01 01 | 5: 05 00 | 4: 04 00 | 2: 02 01 02");
+  EXPECT_EQ(Describe(builder.Take().get()), "2: 02 01 01 | 5: 05 00 | 4: 04 00 | 2: 02 01 02");
   EXPECT_EQ(builder.Head(), nullptr);
   builder.Append(Number(3));
   EXPECT_EQ(Describe(builder.Head()), "2: 02 01 03");
@@ -172,14 +147,11 @@ TEST_F(Interface, TellsTheNamesAndNumbersOfCodes) {
   for (const auto& [code, message] : kMessages) {
     const std::error_code error = code;
     EXPECT_EQ(error.message(), message);
-    EXPECT_STREQ(error.category().name(), "Velkord");
-    EXPECT_NE(error, std::error_code(error.value(), std::generic_category()));
     try {
       velkord::Check(error.value(), "a step");
       EXPECT_FALSE(error);
     } catch (const std::system_error& thrown) {
       EXPECT_TRUE(error);
-      EXPECT_EQ(thrown.code(), error);
       EXPECT_EQ(thrown.what(), "a step: " + message);
     }
   }
