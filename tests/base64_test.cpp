@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -12,64 +11,55 @@
 namespace {
 
 using namespace velkord::internal;
-using Octets = std::vector<uint8_t>;
 
 constexpr std::string_view kAlphabet(kBase64Alphabet);
 constexpr size_t kAlignments = 32;
 
 // A block of its own with the content at its end, so that a sanitizer sees each step past it.
 struct Block {
-  template <typename Content>
-  Block(size_t front, const Content& content)
-      : octets(front + content.size()), bytes(octets.data() + front) {
-    std::copy(content.begin(), content.end(), bytes);
+  Block(size_t front, std::string_view content)
+      : all(front + content.size()), text(all.data() + front) {
+    content.copy(text, content.size());
   }
-  char* Text() const { return reinterpret_cast<char*>(bytes); }
+  uint8_t* Bytes() const { return reinterpret_cast<uint8_t*>(text); }
 
-  Octets octets;
-  uint8_t* bytes;
+  std::vector<char> all;
+  char* text;
 };
 
-Octets Sample(uint32_t size) {
-  Octets all;
-  for (uint32_t at = 0; at < size; ++at) all.push_back(static_cast<uint8_t>(at * 0x9E3779B1 >> 24));
+std::string Sample(uint32_t size) {
+  std::string all;
+  for (uint32_t at = 0; at < size; ++at) all += static_cast<char>(at * 0x9E3779B1 >> 24);
   return all;
 }
 
-// Six bits a character, those past the end zero.
-std::string PlainEncode(const Octets& bytes) {
-  const auto bit = [&](size_t at) {
-    return at / 8 < bytes.size() ? bytes[at / 8] >> (7 - at % 8) & 1U : 0U;
-  };
+// The last group is filled up with zero bytes, each of which becomes a padding character.
+std::string PlainEncode(std::string bytes) {
+  const size_t missing = (3 - bytes.size() % 3) % 3;
+  bytes.append(missing, '\0');
   std::string text;
-  for (size_t at = 0; at < 8 * bytes.size(); at += 6) {
-    uint32_t index = 0;
-    for (size_t next = at; next < at + 6; ++next) index = index << 1 | bit(next);
-    text += kAlphabet[index];
+  uint32_t group = 0;
+  for (size_t at = 0; at < bytes.size(); ++at) {
+    group = group << 8 | static_cast<uint8_t>(bytes[at]);
+    if (at % 3 != 2) continue;
+    for (const uint32_t shift : {18U, 12U, 6U, 0U}) text += kAlphabet[group >> shift & 0x3F];
   }
-  return text.append((4 - text.size() % 4) % 4, '=');
+  return text.replace(text.size() - missing, missing, missing, '=');
 }
 
-Octets PlainDecode(const std::string& text, bool skipsInvalid) {
-  Octets bytes;
+std::string PlainDecode(const std::string& text, Invalid invalid) {
+  std::string bytes;
   size_t indexes[4] = {};
-  size_t filled = 0;
+  size_t places = 0;
   size_t padding = 0;
   for (const char c : text) {
     const size_t index = kAlphabet.find(c);
-    if (index < 64) {
-      indexes[filled] = index;
-    } else if (c == '=') {
-      ++padding;
-    } else if (skipsInvalid) {
-      continue;
-    }
-    filled = (filled + 1) % 4;
-    if (filled != 0) continue;
+    if (index == std::string_view::npos && c != '=' && invalid == Invalid::kSkipped) continue;
+    if (index != std::string_view::npos) indexes[places % 4] = index;
+    if (c == '=') ++padding;
+    if (++places % 4 != 0) continue;
     const size_t group = indexes[0] << 18 | indexes[1] << 12 | indexes[2] << 6 | indexes[3];
-    for (size_t at = 0; at + padding < 3; ++at) {
-      bytes.push_back(static_cast<uint8_t>(group >> (16 - 8 * at)));
-    }
+    for (size_t at = 0; at + padding < 3; ++at) bytes += static_cast<char>(group >> (16 - 8 * at));
     if (padding != 0) break;
   }
   return bytes;
@@ -78,33 +68,33 @@ Octets PlainDecode(const std::string& text, bool skipsInvalid) {
 void ExpectDecoded(const std::string& text, size_t alignment) {
   const Block in(alignment, text);
   for (const Invalid invalid : {Invalid::kSkipped, Invalid::kTakePlaces}) {
-    const Octets bytes = PlainDecode(text, invalid == Invalid::kSkipped);
+    const std::string bytes = PlainDecode(text, invalid);
     for (const Base64Kernel& kernel : Base64Kernels()) {
-      const Block out(alignment, Octets(text.size() / 4 * 3));
-      const uint32_t size = DecodeBase64(kernel, {in.Text(), text.size()}, invalid, out.bytes);
-      ASSERT_EQ(Octets(out.bytes, out.bytes + size), bytes) << text;
+      const Block out(alignment, std::string(text.size() / 4 * 3, 0));
+      const uint32_t size = DecodeBase64(kernel, {in.text, text.size()}, invalid, out.Bytes());
+      ASSERT_EQ(std::string_view(out.text, size), bytes) << text;
     }
   }
 }
 
 TEST(Base64, EveryKernelAgreesAtEveryLengthAndAlignment) {
   for (uint32_t size = 0; size <= 240; ++size) {
-    const Octets bytes = Sample(size);
+    const std::string bytes = Sample(size);
     const std::string text = PlainEncode(bytes);
     std::string lines;
     for (size_t at = 0; at < size / kLineBytes; ++at) {
       lines += text.substr(at * kLineCharacters, kLineCharacters) + "\r\n";
     }
-    ASSERT_EQ(PlainDecode(text, true), bytes);
+    ASSERT_EQ(PlainDecode(text, Invalid::kSkipped), bytes);
     for (size_t alignment = 0; alignment < kAlignments; ++alignment) {
       const Block in(alignment, bytes);
       for (const Base64Kernel& kernel : Base64Kernels()) {
-        const Block out(alignment, Octets(text.size()));
-        ASSERT_EQ(PutBase64(kernel, in.bytes, size, out.Text()), out.Text() + text.size());
-        ASSERT_EQ(std::string_view(out.Text(), text.size()), text);
-        const Block outLines(alignment, Octets(lines.size()));
-        kernel.encodeLines(in.bytes, size / kLineBytes, outLines.Text());
-        ASSERT_EQ(std::string_view(outLines.Text(), lines.size()), lines);
+        const Block out(alignment, std::string(text.size(), 0));
+        ASSERT_EQ(PutBase64(kernel, in.Bytes(), size, out.text), out.text + text.size());
+        ASSERT_EQ(std::string_view(out.text, text.size()), text);
+        const Block outLines(alignment, std::string(lines.size(), 0));
+        kernel.encodeLines(in.Bytes(), size / kLineBytes, outLines.text);
+        ASSERT_EQ(std::string_view(outLines.text, lines.size()), lines);
       }
       ExpectDecoded(text, alignment);
     }
