@@ -46,7 +46,8 @@ int32_t FailEachRequest(AnyFunction function, const LibraryCall& call, const Che
 
 class Allocation : public testing::Environment {
   void SetUp() override { callHook = FailEachRequest; }
-  void TearDown() override { EXPECT_EQ(failed.size(), 155U); }
+  // No fewer than there are in version 1.0.
+  void TearDown() override { EXPECT_GE(failed.size(), 155U); }
 };
 
 const testing::Environment* const kAllocation = testing::AddGlobalTestEnvironment(new Allocation);
