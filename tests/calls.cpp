@@ -1,72 +1,69 @@
 #include "calls.h"
 
 #include <algorithm>
-#include <cstdlib>
-#include <deque>
 
 #include "invocation.h"
 
 namespace {
 
-// The arguments of a call as text: none and null are null pointers.
+// The arguments of a call as text: none and null are null pointers. Before a node that the function
+// may release, `kept` says that it does not.
 class TextInputs : public Inputs {
  public:
   explicit TextInputs(const Arguments& in) : in_(in) {}
 
   int64_t Number() override { return std::stoll(Next(), nullptr, 0); }
-  Anybuf* Node() override { return Take(ToNode(Next()), {}).node.get(); }
+  Anybuf* Node() override { return Keep(ToNode(Next())); }
+  // What the function does not release shows under the sanitizers.
+  Anybuf* GivenNode() override {
+    const std::string text = Next();
+    if (text.starts_with("kept ")) return Keep(ToNode(text.substr(5)));
+    return (given_ = ToNode(text)).get();
+  }
+  void LetGo() override { std::ignore = given_.release(); }
   Block Bytes(size_t size) override {
     const std::string text = Next();
     if (text == "null") return {nullptr, 1};
-    const ByteVector& bytes = Take(nullptr, FromHex(text)).bytes;
-    EXPECT_TRUE(size == 0 || size == bytes.size());
-    return {bytes.data(), bytes.size()};
+    const Anybuf* node = Keep(MakeNode(FromHex(text)));
+    EXPECT_TRUE(size == 0 || size == node->dataLen);
+    return {node->dataLen == 0 ? nullptr : node->data, node->dataLen};
   }
   // A line end is written as `|`.
   Block Text(bool isTerminated) override {
-    ByteVector bytes;
-    for (const char c : Next()) {
-      if (c == '|') bytes.push_back('\r');
-      bytes.push_back(c == '|' ? '\n' : static_cast<uint8_t>(c));
-    }
+    std::string text = Next();
+    if (text == "null") return {nullptr, 1};
+    for (size_t at; (at = text.find('|')) != std::string::npos;) text.replace(at, 1, "\r\n");
+    ByteVector bytes(text.begin(), text.end());
     const size_t size = bytes.size();
     if (isTerminated || bytes.empty()) bytes.push_back(0);
-    return {Take(nullptr, bytes).bytes.data(), size};
+    return {Keep(MakeNode(bytes))->data, size};
   }
   size_t Room(const Function&) override { return 1500; }
   void ExpectUnchanged() override {
-    for (const Taken& taken : taken_) EXPECT_EQ(taken.Text(), taken.before);
+    for (const auto& [node, text] : kept_) EXPECT_EQ(Describe(node.get()), text);
   }
-  void BeforeRecord(size_t size) override { DirtyHeap(size); }
+  void BeforeObject(size_t size) override { DirtyHeap(size); }
 
  private:
-  struct Taken {
-    std::string Text() const { return Describe(node.get()) + ToHex(bytes.data(), bytes.size()); }
-
-    NodePtr node;
-    ByteVector bytes;
-    std::string before;
-  };
-
-  const Taken& Take(NodePtr node, ByteVector bytes) {
-    Taken& taken = taken_.emplace_back(Taken{std::move(node), std::move(bytes), ""});
-    taken.before = taken.Text();
-    return taken;
+  Anybuf* Keep(NodePtr node) {
+    kept_.emplace_back(std::move(node), "");
+    kept_.back().second = Describe(kept_.back().first.get());
+    return kept_.back().first.get();
   }
 
   std::string Next() { return at_ < in_.size() ? in_[at_++] : ""; }
 
   const Arguments& in_;
   size_t at_ = 0;
-  std::deque<Taken> taken_;
+  std::vector<std::pair<NodePtr, std::string>> kept_;  // Nodes or bytes, as they shall stay.
+  NodePtr given_;
 };
 
 // With each out argument in turn a null pointer, which is refused or goes without that result.
 void CallWithNulls(const Function& function, const Arguments& arguments, void* subject,
                    int32_t plainCode, uint32_t plainSize) {
   const Rule& rule = *function.rule;
-  size_t outs = 1;
-  for (size_t nulled = 0; nulled < outs; ++nulled) {
+  for (size_t nulled = 0, outs = 1; nulled < outs; ++nulled) {
     TextInputs in(arguments);
     Invocation call(function, in, subject, nulled);
     const int32_t code = call.Run();
@@ -83,8 +80,9 @@ void CallWithNulls(const Function& function, const Arguments& arguments, void* s
 }
 
 // The code of a setter that fails, which must leave the record as it was.
-std::string Set(const RecordType& type, void* record, const std::string& name,
-                const std::string& value) {
+std::string Set(const RecordType& type, void* record, const std::string& step) {
+  const std::string name = step.substr(0, step.find('='));
+  const std::string value = step.substr(name.size() + 1);
   for (const RecordType::Field& field : type.fields) {
     if (name != field.name) continue;
     auto* place = static_cast<uint8_t*>(record) + field.offset;
@@ -111,106 +109,14 @@ std::string Build(const RecordType& type, const Arguments& steps) {
   void* record = nullptr;
   EXPECT_EQ(type.create(&record), 0);
   std::string text;
-  for (const std::string& step : steps) {
-    const size_t equals = step.find('=');
-    text += Set(type, record, step.substr(0, equals), step.substr(equals + 1));
-  }
+  for (const std::string& step : steps) text += Set(type, record, step);
   EXPECT_EQ(Call(*type.write, {}, nullptr), "-8");
   const std::string written = Call(*type.write, {}, record);
-  EXPECT_EQ(Written(type, record), written);
+  EXPECT_EQ(Call(*type.write, {}, record), written);
   type.release(record);
   type.release(nullptr);
   return text + written;
 }
-
-// Whatever is not released shows under the sanitizers.
-std::string Release(void (*release)(Anybuf*), const Arguments& in) {
-  release(ToNode(in[0]).release());
-  return "released";
-}
-
-size_t NodeCount(const Anybuf* chain) {
-  size_t count = 0;
-  for (; chain != nullptr; chain = chain->next) ++count;
-  return count;
-}
-
-// Appends an element twice. An appended node carries `memKind` over and has no `prev`.
-std::string Append(void (*add)(const Anybuf*, Anybuf*), const Arguments& in) {
-  const NodePtr element = ToNode(in[0]);
-  const NodePtr chain = ToNode(in[1]);
-  if (element != nullptr) element->memKind = 9;
-  const size_t before = NodeCount(chain.get());
-  size_t position = 1;
-  const auto append = [&] {
-    add(element.get(), chain.get());
-    return 0;
-  };
-  CallLibrary(add, append, [&] { EXPECT_EQ(NodeCount(chain.get()), before); });
-  append();
-  for (Anybuf* node = chain.get(); node != nullptr && node->next != nullptr; node = node->next) {
-    const bool appended = position++ >= before;
-    EXPECT_EQ(node->next->memKind, appended ? 9U : 2U);
-    EXPECT_EQ(node->next->prev, appended ? nullptr : node);
-    node->next->memKind = 2;
-    node->next->prev = node;
-  }
-  return Describe(chain.get(), true);
-}
-
-std::string LowIntToChar(const Arguments& in) {
-  uint8_t* octets = nullptr;
-  uint32_t* count = nullptr;
-  const auto value = static_cast<uint32_t>(std::stoul(in[0], nullptr, 0));
-  const auto isUntouched = [&] { EXPECT_TRUE(octets == nullptr && count == nullptr); };
-  EXPECT_EQ(Asn1LowIntToChar(1, &octets, nullptr), VELKORD_NULL_ARGUMENT);
-  EXPECT_EQ(Asn1LowIntToChar(1, nullptr, &count), VELKORD_NULL_ARGUMENT);
-  isUntouched();
-  const auto call = [&] { return Asn1LowIntToChar(value, &octets, &count); };
-  EXPECT_EQ(CallLibrary(Asn1LowIntToChar, call, isUntouched), 0);
-  const std::string text = ToHex(octets, *count);
-  std::free(octets);
-  std::free(count);
-  return text;
-}
-
-// What becomes of the OID node is seen by whether freeing it here is right.
-std::string SetAlgorithm(const Arguments& in) {
-  Anybuf* oid = ToNode(in[1]).release();
-  const NodePtr algorithm = ToNode(in[2]);
-  const NodePtr parameter = ToNode(in[3]);
-  const auto mode = static_cast<uint32_t>(std::stoul(in[0]));
-  EXPECT_EQ(ASN1_SetAlgorithmIdentifier(mode, oid, nullptr, nullptr, nullptr), -8);
-  Anybuf* out = nullptr;
-  const auto call = [&] {
-    return ASN1_SetAlgorithmIdentifier(mode, oid, algorithm.get(), parameter.get(), &out);
-  };
-  const int32_t code =
-      CallLibrary(ASN1_SetAlgorithmIdentifier, call, [&] { EXPECT_EQ(out, nullptr); });
-  const std::string made = code == 0 ? Describe(NodePtr(out).get(), true) : std::to_string(code);
-  if (in[4] == "released") return made;
-  const NodePtr stillOurs(oid);
-  return made + " ; " + Describe(oid, true);
-}
-
-// The functions of a type that no invocation calls.
-template <typename Type>
-Callers::mapped_type Special(Type*) {
-  return nullptr;
-}
-Callers::mapped_type Special(void (*release)(Anybuf*)) { return std::bind_front(Release, release); }
-Callers::mapped_type Special(void (*add)(const Anybuf*, Anybuf*)) {
-  return std::bind_front(Append, add);
-}
-Callers::mapped_type Special(decltype(Asn1LowIntToChar)*) { return LowIntToChar; }
-Callers::mapped_type Special(decltype(ASN1_SetAlgorithmIdentifier)*) { return SetAlgorithm; }
-
-#define RECORD(name)
-#define FIELD(record, name)
-#define FUNCTION(name, parameters) {#name, Special(name)},
-const Callers kSpecialCallers = {
-#include "functions.inc"
-};
 
 }  // namespace
 
@@ -229,11 +135,11 @@ std::string Call(const Function& function, const Arguments& arguments, void* sub
 }
 
 std::string Call(const std::string& name, const Arguments& arguments) {
-  for (const Callers* callers : {&kInspectionCallers, &kSpecialCallers}) {
-    const auto caller = callers->find(name);
-    if (caller != callers->end() && caller->second) return caller->second(arguments);
-  }
+  if (name == "X509CertGetSubject") return ListSubject(arguments);
+  if (name == "X509CertGetOIDValue") return LookUp(arguments);
   if (const RecordType* type = FindRecordType(name)) return Build(*type, arguments);
   const Function* function = FindFunction(name);
-  return function ? Call(*function, arguments, nullptr) : "no such function";
+  if (function == nullptr) return "no such function";
+  if (name.starts_with("ASN1_Add")) return Append(*function, arguments);
+  return Call(*function, arguments, nullptr);
 }

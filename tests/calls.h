@@ -4,16 +4,15 @@
 #ifndef VELKORD_TESTS_CALLS_H_
 #define VELKORD_TESTS_CALLS_H_
 
-#include <map>
-
 #include "functions.h"
 #include "hex.h"
 
 using Arguments = std::vector<std::string>;
-using Callers = std::map<std::string, std::function<std::string(const Arguments&)>>;
 
-// Those that need more than a call: of certificate inspection.
-extern const Callers kInspectionCallers;
+// Calls that need more than an Invocation.
+std::string Append(const Function& function, const Arguments& in);
+std::string ListSubject(const Arguments& in);
+std::string LookUp(const Arguments& in);
 
 // An inspection record over a subject and extensions.
 using InspectionPtr = std::unique_ptr<X509Cert, FreeWith<X509CertFree>>;

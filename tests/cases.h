@@ -10,8 +10,8 @@
 
 struct Case {
   std::string place;  // The number of its line, and the line.
-  std::string zone;   // Empty for a case that holds in all zones.
-  std::vector<std::string> functions;
+  std::string zone;   // UTC0 unless the file says otherwise.
+  std::string function;
   Arguments arguments;
   std::string result;
 };

@@ -7,30 +7,25 @@
 
 namespace {
 
-constexpr int32_t kFailure = VELKORD_FAILURE;
 constexpr int32_t kNull = VELKORD_NULL_ARGUMENT;
 
 // The first whose prefix fits counts.
 constexpr Rule kRules[] = {
     {"ASN1_SM2_", 0, Writes::kAllOrNone},
     {"ASN1_OBJECT_a2d", 0, Writes::kAllOrNone, "", true},
-    {"ASN1_EccPubkey2Der", kFailure},
-    {"ASN1_Der2Ecc", kFailure},
-    {"ZantEncode", kFailure, Writes::kAllOrNone, "der"},
-    {"ZantDecode", kFailure, Writes::kAll, "", true},
-    {"X509CertGetOIDValue", kFailure, Writes::kAllOrNone},
+    {"ASN1_EccPubkey2Der", VELKORD_FAILURE},
+    {"ASN1_Der2Ecc", VELKORD_FAILURE},
+    {"ZantEncode", VELKORD_FAILURE, Writes::kAllOrNone, "der"},
+    {"ZantDecode", VELKORD_FAILURE, Writes::kAll, "", true},
+    {"X509CertGetOIDValue", VELKORD_FAILURE, Writes::kAllOrNone},
     {"ASN1_ReadImplicit", kNull, Writes::kAll, "", true},
     {"ASN1_GetExtension", kNull, Writes::kSome},
     {"ASN1_GetAlgorithmIdentifier", kNull, Writes::kAll, "outOid outSequence outParameterOid"},
     {"ASN1_", kNull},
+    {"Asn1", kNull},
     {"uniToUTF8", Rule::kTakesNoNull, Writes::kAll, "out"},
     {"", Rule::kTakesNoNull, Writes::kAllOrNone},
 };
-
-template <typename Parameter>
-constexpr bool kIsTaken =
-    !std::is_same_v<Parameter, Anybuf*> && !std::is_same_v<Parameter, uint8_t**> &&
-    !std::is_same_v<Parameter, uint32_t**> && !std::is_same_v<Parameter, X509Cert**>;
 
 template <typename Result, typename First, typename... Rest>
 void Classify(Function& entry, Result (*function)(First, Rest...)) {
@@ -53,7 +48,7 @@ void Classify(Function& entry, Result (*function)(First, Rest...)) {
       };
     }
   }
-  if constexpr (kIsTaken<First> && (kIsTaken<Rest> && ...)) {
+  if constexpr (!std::is_pointer_v<Result>) {
     entry.run = [=](Invocation& call) { return call.Apply(function); };
   }
 }
@@ -88,10 +83,7 @@ struct Lists {
   std::map<std::string, RecordType*> types;
 };
 
-const Lists& AllLists() {
-  static const Lists lists;
-  return lists;
-}
+const Lists kLists;
 
 template <typename Map>
 auto Find(const Map& map, const typename Map::key_type& key) {
@@ -101,10 +93,10 @@ auto Find(const Map& map, const typename Map::key_type& key) {
 
 }  // namespace
 
-const std::vector<Function>& Functions() { return AllLists().functions; }
-const Function& FindFunction(AnyFunction address) { return *AllLists().addresses.at(address); }
-const Function* FindFunction(const std::string& name) { return Find(AllLists().names, name); }
-const RecordType* FindRecordType(const std::string& name) { return Find(AllLists().types, name); }
+const std::vector<Function>& Functions() { return kLists.functions; }
+const Function& FindFunction(AnyFunction address) { return *kLists.addresses.at(address); }
+const Function* FindFunction(const std::string& name) { return Find(kLists.names, name); }
+const RecordType* FindRecordType(const std::string& name) { return Find(kLists.types, name); }
 
 std::string RecordType::Describe(const void* record) const {
   std::string text;
@@ -114,11 +106,8 @@ std::string RecordType::Describe(const void* record) const {
     const uint8_t* place = static_cast<const uint8_t*>(record) + field.offset;
     std::fill_n(&between[field.offset], field.size, uint8_t{0});
     std::string value = "0";
-    if (field.isNode) {
-      value = ::Describe(*reinterpret_cast<Anybuf* const*>(place), true);
-    } else if (field.isNumber) {
-      value = std::to_string(*reinterpret_cast<const int32_t*>(place));
-    }
+    if (field.isNode) value = ::Describe(*reinterpret_cast<Anybuf* const*>(place));
+    if (field.isNumber) value = std::to_string(*reinterpret_cast<const int32_t*>(place));
     if (value != "none" && value != "0") text += field.name + "=" + value + " ";
   }
   EXPECT_EQ(between, ByteVector(size));

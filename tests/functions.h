@@ -53,7 +53,7 @@ struct Function {
   AnyFunction address;
   const Rule* rule;
   RecordType* subject = nullptr;            // The record that it works on.
-  std::function<int32_t(Invocation&)> run;  // Empty for the few that no Invocation calls.
+  std::function<int32_t(Invocation&)> run;  // Empty for one that returns a pointer.
 };
 
 const std::vector<Function>& Functions();

@@ -6,18 +6,15 @@
 
 namespace {
 
-ByteVector Sample(const std::string& place) {
-  const size_t colon = place.find(':');
-  const std::string path = std::string(VELKORD_DATA "/") + place.substr(0, colon);
-  std::ifstream file(path, std::ios::binary);
-  EXPECT_TRUE(file.is_open()) << path;
+std::string Sample(const std::string& place) {
+  const std::vector<std::string> parts = Split(place, ":");
+  std::ifstream file(VELKORD_DATA "/" + parts[0], std::ios::binary);
+  EXPECT_TRUE(file.is_open()) << place;
   const std::string content{std::istreambuf_iterator<char>(file), {}};
-  if (colon == std::string::npos) return {content.begin(), content.end()};
-  const size_t offset = std::stoul(place.substr(colon + 1));
-  const size_t size = std::stoul(place.substr(place.rfind(':') + 1));
-  EXPECT_LE(offset + size, content.size()) << place;
-  const std::string part = content.substr(offset, size);
-  return {part.begin(), part.end()};
+  if (parts.size() == 1) return content;
+  const std::string part = content.substr(std::stoul(parts[1]), std::stoul(parts[2]));
+  EXPECT_EQ(part.size(), std::stoul(parts[2])) << place;
+  return part;
 }
 
 }  // namespace
@@ -28,22 +25,13 @@ ByteVector FromHex(const std::string& hex) {
   for (std::string octet; octets >> octet;) {
     if (octet[0] == '"') {
       bytes.insert(bytes.end(), octet.begin() + 1, octet.end() - 1);
-      continue;
-    }
-    if (octet[0] == '@') {
-      const ByteVector sample = Sample(octet.substr(1));
+    } else if (octet[0] == '@') {
+      const std::string sample = Sample(octet.substr(1));
       bytes.insert(bytes.end(), sample.begin(), sample.end());
-      continue;
+    } else {
+      const size_t count = octet.size() > 3 ? std::stoul(octet.substr(3)) : 1;
+      bytes.insert(bytes.end(), count, static_cast<uint8_t>(std::stoul(octet, nullptr, 16)));
     }
-    if (octet.find("..") == 2) {
-      const auto last = std::stoul(octet.substr(4), nullptr, 16);
-      for (auto byte = std::stoul(octet, nullptr, 16); byte <= last; ++byte) {
-        bytes.push_back(static_cast<uint8_t>(byte));
-      }
-      continue;
-    }
-    const size_t count = octet.size() > 3 ? std::stoul(octet.substr(3)) : 1;
-    bytes.insert(bytes.end(), count, static_cast<uint8_t>(std::stoul(octet, nullptr, 16)));
   }
   // No spare room behind them, where a read past the end would go unseen.
   bytes.shrink_to_fit();
@@ -82,12 +70,11 @@ NodePtr ToNode(const std::string& text) {
     return head;
   }
   const size_t colon = text.find(": ");
-  NodePtr node = MakeNode(FromHex(colon == std::string::npos ? text : text.substr(colon + 1)));
-  if (colon != std::string::npos) {
-    const size_t slash = text.find('/');
-    node->dataType = static_cast<uint32_t>(std::stoul(text));
-    if (slash < colon) node->unusedBits = static_cast<uint32_t>(std::stoul(text.substr(slash + 1)));
-  }
+  if (colon == std::string::npos) return MakeNode(FromHex(text));
+  NodePtr node = MakeNode(FromHex(text.substr(colon + 1)));
+  node->dataType = static_cast<uint32_t>(std::stoul(text));
+  const size_t slash = text.find('/');
+  if (slash < colon) node->unusedBits = static_cast<uint32_t>(std::stoul(text.substr(slash + 1)));
   return node;
 }
 
@@ -97,16 +84,17 @@ NodePtr Sequence(const std::string& elements) {
   return NodePtr(node);
 }
 
-std::string Describe(const Anybuf* chain, bool isShort) {
+std::string Describe(const Anybuf* chain) {
   ExpectWhole(chain);
   std::string text;
   for (const Anybuf* node = chain; node != nullptr; node = node->next) {
     if (node != chain) text += " | ";
-    const bool isPlain = isShort && node->dataLen > 0 && node->unusedBits == 0 &&
-                         node->dataType == ReducedTag({node->data, node->dataLen});
-    if (!isPlain) text += std::to_string(node->dataType);
-    if (node->unusedBits != 0) text.append("/").append(std::to_string(node->unusedBits));
-    if (!isPlain) text += ": ";
+    const std::string type = std::to_string(node->dataType);
+    if (node->unusedBits != 0) {
+      text += type + "/" + std::to_string(node->unusedBits) + ": ";
+    } else if (node->dataLen == 0 || node->dataType != ReducedTag({node->data, node->dataLen})) {
+      text += type + ": ";
+    }
     text += ToHex(node->data, node->dataLen);
   }
   return chain == nullptr ? "none" : text;
@@ -120,14 +108,13 @@ void ExpectWhole(const Anybuf* chain) {
   }
 }
 
-std::vector<std::string> Split(const std::string& text, const std::string& separator) {
+std::vector<std::string> Split(std::string text, const std::string& separator) {
   std::vector<std::string> parts;
-  size_t at = 0;
-  for (size_t end; (end = text.find(separator, at)) != std::string::npos;) {
-    parts.push_back(text.substr(at, end - at));
-    at = end + separator.size();
+  for (size_t end; (end = text.find(separator)) != std::string::npos;) {
+    parts.push_back(text.substr(0, end));
+    text.erase(0, end + separator.size());
   }
-  parts.push_back(text.substr(at));
+  parts.push_back(text);
   return parts;
 }
 
@@ -136,10 +123,4 @@ bool Buffer::IsUntouched(size_t from) const {
   const uint8_t* rest = bytes.data() + from;
   return from == bytes.size() || (from < bytes.size() && *rest == kUntouched &&
                                   std::memcmp(rest, rest + 1, bytes.size() - from - 1) == 0);
-}
-
-std::string Buffer::Text() const {
-  const size_t written = size == kNoSize ? 0 : size;
-  EXPECT_TRUE(IsUntouched(written));
-  return size == kNoSize ? "kept" : ToHex(bytes.data(), written);
 }

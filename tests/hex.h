@@ -24,12 +24,10 @@ struct FreeWith {
   }
 };
 using NodePtr = std::unique_ptr<Anybuf, FreeWith<ASN1_FreeAnybuf>>;
-using TbsPtr = std::unique_ptr<TBSCertificate, FreeWith<ASN1_FreeTBSCertificate>>;
-using CertificatePtr = std::unique_ptr<Certificate, FreeWith<ASN1_FreeCertificate>>;
 
 // Hexadecimal octets with blanks between them, "05 00", to bytes and back. `FF*200` is 200 octets,
-// `01..20` the octets from 01 up to 20, `"CN"` the octets of a text without blanks, and
-// `@name:4:20` 20 bytes of a sample file from the fourth on, or the whole file without the numbers.
+// `"CN"` the octets of a text without blanks, and `@name:4:20` 20 bytes of a sample file from the
+// fourth on, or the whole file without the numbers.
 ByteVector FromHex(const std::string& hex);
 std::string ToHex(const uint8_t* bytes, size_t size);
 
@@ -50,25 +48,17 @@ NodePtr Sequence(const std::string& elements);
 // The bytes of a node as text.
 inline std::string Hex(const NodePtr& node) { return ToHex(node->data, node->dataLen); }
 
-// A chain as text, its nodes as above with " | " between them; `isShort` leaves out the type of the
-// first octet.
-std::string Describe(const Anybuf* chain, bool isShort = false);
+// A chain as text, in the shortest of the forms above.
+std::string Describe(const Anybuf* chain);
 
 // Expects the links and the `memKind` of a chain that the library made.
 void ExpectWhole(const Anybuf* chain);
 
-std::vector<std::string> Split(const std::string& text, const std::string& separator);
+std::vector<std::string> Split(std::string text, const std::string& separator);
 
 // Leaves blocks behind that hold no zero, for the next requests of their size.
 inline void DirtyHeap(size_t size) {
   const std::vector<ByteVector> blocks(8, ByteVector(size, 0xA5));
-}
-
-// Expects that a new record is zero in all its bytes, those between the fields too.
-template <typename Record>
-void ExpectZeros(const Record& record) {
-  const ByteVector zeros(sizeof record);
-  EXPECT_EQ(std::memcmp(&record, zeros.data(), zeros.size()), 0);
 }
 
 // What a function that makes a node gives, its out pointer being the last argument: the node as
@@ -94,8 +84,6 @@ struct Buffer {
     return bytes.data();
   }
   bool IsUntouched(size_t from) const;
-  // Its content, `kept` when no size was set. Nothing may be written after that.
-  std::string Text() const;
 
   ByteVector bytes;
   uint32_t size = kNoSize;

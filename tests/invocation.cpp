@@ -1,84 +1,68 @@
 #include "invocation.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace {
 
-struct NoInputs : Inputs {
-  int64_t Number() override { return 0; }
-  Anybuf* Node() override { return nullptr; }
-  Block Bytes(size_t) override { return {}; }
-  Block Text(bool) override { return {}; }
-  size_t Room(const Function&) override { return 0; }
-  void ExpectUnchanged() override {}
-};
-
-}  // namespace
-
+// What a record is written as, or the code.
 std::string Written(const RecordType& type, void* record) {
-  NoInputs none;
+  Inputs none;
   Invocation write(*type.write, none, record);
   const int32_t code = write.Run();
   return code == 0 ? write.Results() : std::to_string(code);
 }
 
+}  // namespace
+
 Invocation::~Invocation() {
   for (const Out& out : outs_) {
     if (!out.IsWritten()) continue;
-    if (out.kind == Kind::kNode) ASN1_FreeAnybuf(static_cast<Anybuf*>(out.object));
-    if (out.kind == Kind::kRecord) out.type->release(out.object);
+    if (out.kind == Kind::kNode) ASN1_FreeAnybuf(out.As<Anybuf*>());
+    if (out.kind == Kind::kRecord) out.type->release(out.As<void*>());
+    if (out.kind == Kind::kBlock) std::free(out.As<void*>());
   }
 }
 
-uint8_t* Invocation::TakeBuffer(Kind kind, uint32_t fixedSize) {
-  Out* out = Add(kind);
-  Out& added = outs_[outCount_ - 1];
-  added.fixedSize = fixedSize;
-  added.isSized = sizeIsNext_ = isSize_[at_];
-  const bool isFixed = fixedSize != 0 && !added.isSized && !isInteger_[at_];
-  added.buffer = Buffer(isFixed ? fixedSize : in_.Room(function_));
-  return out ? out->buffer.Data() : nullptr;
-}
-
-Invocation::Out* Invocation::Add(Kind kind) {
-  Out& out = outs_[outCount_++];
-  out.kind = kind;
-  out.parameter = at_ - 1;
-  return IsNulled() ? nullptr : &out;
+uint8_t* Invocation::TakeOut(Kind kind, uint32_t fixedSize) {
+  const bool isBuffer = kind == Kind::kBytes || kind == Kind::kText;
+  sizeIsNext_ = isBuffer && isSize_[at_];
+  const bool hasRoom = isBuffer && (fixedSize == 0 || isSize_[at_] || isInteger_[at_]);
+  Buffer buffer(hasRoom ? in_.Room(function_) : fixedSize);
+  outs_.push_back({kind, at_ - 1, fixedSize, sizeIsNext_, std::move(buffer)});
+  return IsNulled() ? nullptr : outs_.back().buffer.Data();
 }
 
 bool Invocation::IsNulled() {
-  pointers_[pointerCount_] = at_ - 1;
-  return pointerCount_++ == nulled_;
+  pointers_.push_back(at_ - 1);
+  return pointers_.size() - 1 == nulled_;
 }
 
 void Invocation::ExpectKept() const {
-  for (const Out& out : std::span(outs_).first(outCount_)) {
-    const bool isObject = out.kind == Kind::kNode || out.kind == Kind::kRecord;
-    if (isObject || !function_.rule->writesBeforeFailing) {
-      EXPECT_TRUE(!out.IsWritten() && out.buffer.IsUntouched(0));
-    }
+  for (const Out& out : outs_) {
+    const bool mayChange = function_.rule->writesBeforeFailing && out.kind > Kind::kBlock;
+    EXPECT_TRUE(mayChange || (!out.IsWritten() && out.buffer.IsUntouched(0)));
   }
   EXPECT_TRUE(std::equal(before_.begin(), before_.end(), static_cast<const uint8_t*>(subject_)));
 }
 
 void Invocation::Settle(int32_t code) {
+  if (code == 0) in_.LetGo();
   in_.ExpectUnchanged();
-  if (code < 0) ExpectKept();
-  for (size_t at = 0; at < outCount_; ++at) outs_[at].Settle(code, *function_.rule);
+  for (Out& out : outs_) out.Settle(code, *function_.rule);
   if (code != 0 || nulled_ != kNone || function_.rule->writes == Writes::kSome) return;
   const auto written = std::count_if(outs_.begin(), outs_.end(), std::mem_fn(&Out::IsWritten));
-  EXPECT_TRUE(written == static_cast<ptrdiff_t>(outCount_) ||
+  EXPECT_TRUE(written == static_cast<ptrdiff_t>(outs_.size()) ||
               (written == 0 && function_.rule->writes == Writes::kAllOrNone))
       << function_.name;
 }
 
 void Invocation::Out::Settle(int32_t code, const Rule& rule) {
-  if (kind == Kind::kNode && IsWritten()) ExpectWhole(static_cast<Anybuf*>(object));
-  const bool mustWrite = code == 0 && rule.writes == Writes::kAll;
-  if (kind == Kind::kBytes && !isSized && (mustWrite || !buffer.IsUntouched(0))) {
-    buffer.size = code > 0 ? static_cast<uint32_t>(code) : fixedSize;
+  const bool mustWrite = kind == Kind::kBytes && code == 0 && rule.writes == Writes::kAll;
+  if (kind != Kind::kText && !isSized && (mustWrite || !buffer.IsUntouched(0))) {
+    buffer.size = kind == Kind::kBytes && code > 0 ? static_cast<uint32_t>(code) : fixedSize;
   }
+  if (kind == Kind::kNode && IsWritten()) ExpectWhole(As<Anybuf*>());
   size_t end = buffer.size == Buffer::kNoSize ? 0 : buffer.size;
   // A text ends with a zero that its size does not count; without one nothing was written.
   const auto zero = std::find(buffer.bytes.begin(), buffer.bytes.end(), 0);
@@ -90,51 +74,35 @@ void Invocation::Out::Settle(int32_t code, const Rule& rule) {
   EXPECT_TRUE(buffer.IsUntouched(end) || (code <= 0 && rule.writesBeforeFailing));
 }
 
-bool Invocation::Out::IsWritten() const {
-  return object != &untouched || buffer.size != Buffer::kNoSize || number != kUntouchedNumber;
-}
-
 std::string Invocation::Out::Text() const {
-  switch (kind) {
-    case Kind::kNode:
-      return Describe(static_cast<Anybuf*>(object), true);
-    case Kind::kRecord: {
-      const std::string written = Written(*type, object);
-      EXPECT_EQ(Written(*type, object), written);
-      return type->Describe(object) + "written=" + written;
-    }
-    case Kind::kNumber:
-      return std::to_string(number);
-    case Kind::kBytes:
-      return ToHex(buffer.bytes.data(), buffer.size);
-    case Kind::kText:
-      break;
+  if (kind == Kind::kNode) return Describe(As<Anybuf*>());
+  if (kind == Kind::kNumber) return std::to_string(As<int32_t>());
+  if (kind == Kind::kRecord) {
+    const std::string written = Written(*type, As<void*>());
+    EXPECT_EQ(Written(*type, As<void*>()), written);
+    return type->Describe(As<void*>()) + "written=" + written;
   }
-  std::string text;
-  for (size_t at = 0; at < buffer.size; ++at) {
-    if (buffer.bytes[at] != '\r') {
-      text += buffer.bytes[at] == '\n' ? '|' : static_cast<char>(buffer.bytes[at]);
-    }
-  }
+  if (kind == Kind::kBytes) return ToHex(buffer.bytes.data(), buffer.size);
+  std::string text(buffer.bytes.begin(), buffer.bytes.begin() + buffer.size);
+  std::erase(text, '\r');
+  std::replace(text.begin(), text.end(), '\n', '|');
   return text;
 }
 
 ByteVector Invocation::Out::Bytes() const {
   ByteVector bytes;
-  if (kind == Kind::kNumber) {
-    const auto* octets = reinterpret_cast<const uint8_t*>(&number);
-    bytes.assign(octets, octets + sizeof number);
-  } else if (kind == Kind::kRecord) {
-    if (type->restore) type->restore(object);
-    NoInputs none;
-    Invocation write(*type->write, none, object);
-    if (write.Run() == 0) bytes = write.outs_[0].Bytes();
-  } else if (kind != Kind::kNode) {
-    bytes.assign(buffer.bytes.begin(), buffer.bytes.begin() + buffer.size);
-  } else {
-    for (const auto* node = static_cast<Anybuf*>(object); node; node = node->next) {
+  if (!IsWritten()) return bytes;
+  if (kind == Kind::kNode) {
+    for (const auto* node = As<Anybuf*>(); node; node = node->next) {
       bytes.insert(bytes.end(), node->data, node->data + node->dataLen);
     }
+  } else if (kind == Kind::kRecord) {
+    if (type->restore) type->restore(As<void*>());
+    Inputs none;
+    Invocation write(*type->write, none, As<void*>());
+    if (write.Run() == 0) bytes = write.outs_[0].Bytes();
+  } else {
+    bytes.assign(buffer.bytes.begin(), buffer.bytes.begin() + buffer.size);
   }
   return bytes;
 }
@@ -146,16 +114,20 @@ bool Invocation::HasResults() const {
 std::vector<ByteVector> Invocation::Bytes() const {
   std::vector<ByteVector> all;
   if (!HasResults()) return all;
-  for (size_t at = 0; at < outCount_; ++at) all.push_back(outs_[at].Bytes());
+  for (const Out& out : outs_) all.push_back(out.Bytes());
   return all;
 }
 
 std::string Invocation::Results() const {
+  // The second block holds the size of the first.
+  if (outs_[0].kind == Kind::kBlock) {
+    return ToHex(outs_[0].As<uint8_t*>(), *outs_[1].As<uint32_t*>());
+  }
   std::string text;
   for (const Out& out : outs_) {
     if (!out.IsWritten()) continue;
     if (!text.empty()) text += ' ';
-    if (outCount_ > 1) text += function_.parameters[out.parameter] + "=";
+    if (outs_.size() > 1) text += function_.parameters[out.parameter] + "=";
     text += out.Text();
   }
   return text;

@@ -5,7 +5,7 @@
 #ifndef VELKORD_TESTS_INVOCATION_H_
 #define VELKORD_TESTS_INVOCATION_H_
 
-#include <array>
+#include <deque>
 #include <optional>
 #include <tuple>
 #include <type_traits>
@@ -14,7 +14,8 @@
 #include "functions.h"
 #include "hex.h"
 
-// Where the arguments of a call come from: the text of a case, or the bytes of a fuzzer.
+// Where the arguments of a call come from: the text of a case, or the bytes of a fuzzer. Here all
+// are zero.
 class Inputs {
  public:
   struct Block {
@@ -23,28 +24,26 @@ class Inputs {
   };
 
   virtual ~Inputs() = default;
-  virtual int64_t Number() = 0;
-  virtual Anybuf* Node() = 0;
+  virtual int64_t Number() { return 0; }
+  virtual Anybuf* Node() { return nullptr; }
+  // A node that the function may release, and that a call which returned 0 did.
+  virtual Anybuf* GivenNode() { return nullptr; }
+  virtual void LetGo() {}
   // Bytes; of exactly `size` when that is not 0.
-  virtual Block Bytes(size_t size) = 0;
-  virtual Block Text(bool isTerminated) = 0;
-  virtual size_t Room(const Function& function) = 0;  // Of an out buffer.
-  virtual void ExpectUnchanged() = 0;
-  virtual void BeforeRecord(size_t) {}  // Of that size is about to be made.
+  virtual Block Bytes(size_t /*size*/) { return {}; }
+  virtual Block Text(bool /*isTerminated*/) { return {}; }
+  virtual size_t Room(const Function&) { return 0; }  // Of an out buffer.
+  virtual void ExpectUnchanged() {}
+  virtual void BeforeObject(size_t) {}  // Of that size is about to be made.
 };
 
 // Whether a record owns nodes. The records of keys are flat.
+template <typename Type, typename... Types>
+inline constexpr bool kIsOneOf = (std::is_same_v<Type, Types> || ...);
 template <typename Record>
-inline constexpr bool kOwnsNodes = false;
-#define FUNCTION(name, parameters)
-#define FIELD(record, name)
-#define RECORD(name) \
-  template <>        \
-  inline constexpr bool kOwnsNodes<name> = !std::is_same_v<name, Anybuf>;
-#include "functions.inc"
-#undef RECORD
-#undef FIELD
-#undef FUNCTION
+inline constexpr bool kOwnsNodes =
+    std::is_class_v<Record> &&
+    !kIsOneOf<Record, Anybuf, ZantPublicKey, ZantPrivateKey, EccPubkey, EccPrikey>;
 
 template <typename Record>
 RecordType& TypeOf() {
@@ -67,7 +66,7 @@ class Invocation {
   int32_t Run() { return function_.run(*this); }
 
   // The parameters of the out arguments, those of sizes among them.
-  size_t OutCount() const { return pointerCount_; }
+  size_t OutCount() const { return pointers_.size(); }
   const std::string& OutName(size_t number) const {
     return function_.parameters[pointers_[number]];
   }
@@ -96,32 +95,31 @@ class Invocation {
         return static_cast<int32_t>(std::apply(function, arguments));
       }
     };
-    const int32_t code =
-        callHook ? callHook(function_.address, call, [this] { ExpectKept(); }) : call();
+    const int32_t code = CallLibrary(function, call, [this] { ExpectKept(); });
     Settle(code);
     return code;
   }
 
  private:
-  enum class Kind { kNode, kRecord, kBytes, kText, kNumber };
+  // The call makes what is of the first three kinds, and writes a pointer to it.
+  enum class Kind { kNode, kRecord, kBlock, kNumber, kBytes, kText };
   struct Out {
     void Settle(int32_t code, const Rule& rule);
-    bool IsWritten() const;
+    bool IsWritten() const { return buffer.size != Buffer::kNoSize; }
     std::string Text() const;
     ByteVector Bytes() const;
+    template <typename Value>
+    Value As() const {
+      return *reinterpret_cast<const Value*>(buffer.bytes.data());
+    }
 
-    Kind kind = Kind::kNode;
-    size_t parameter = 0;
-    void* object = &untouched;  // A node or a record.
+    Kind kind;
+    size_t parameter;
+    uint32_t fixedSize;  // Where no size goes with it.
+    bool isSized;
+    Buffer buffer;
     const RecordType* type = nullptr;
-    int32_t number = kUntouchedNumber;
-    Buffer buffer{0};
-    bool isSized = false;
-    uint32_t fixedSize = 0;  // Of bytes that no size goes with.
   };
-
-  static inline Anybuf untouched;
-  static constexpr int32_t kUntouchedNumber = 0x6E6E6E6E;
 
   template <typename Parameter>
   Parameter TakeNext() {
@@ -135,6 +133,7 @@ class Invocation {
   }
   const int32_t* Take(const int32_t**) { return &(time_ = static_cast<int32_t>(in_.Number())); }
   const Anybuf* Take(const Anybuf**) { return in_.Node(); }
+  Anybuf* Take(Anybuf**) { return in_.GivenNode(); }
   // A pointer without a length is to one byte.
   const uint8_t* Take(const uint8_t**) { return Take(in_.Bytes(isInteger_[at_] ? 0 : 1)); }
   const char* Take(const char**) {
@@ -147,46 +146,41 @@ class Invocation {
 
   // A record of nodes is what the function works on.
   template <typename Record>
-  std::enable_if_t<std::is_class_v<Record>, const Record*> Take(const Record**) {
-    if constexpr (kOwnsNodes<Record>) return static_cast<const Record*>(subject_);
-    return reinterpret_cast<const Record*>(in_.Bytes(sizeof(Record)).data);
-  }
-  template <typename Record>
   std::enable_if_t<std::is_class_v<Record>, Record*> Take(Record**) {
-    if constexpr (kOwnsNodes<Record>) {
+    if constexpr (kOwnsNodes<std::remove_const_t<Record>>) {
       const auto* bytes = static_cast<const uint8_t*>(subject_);
       if (subject_ != nullptr) before_.assign(bytes, bytes + sizeof(Record));
       return static_cast<Record*>(subject_);
+    } else if constexpr (std::is_const_v<Record>) {
+      return reinterpret_cast<Record*>(in_.Bytes(sizeof(Record)).data);
+    } else {
+      return reinterpret_cast<Record*>(TakeOut(Kind::kBytes, sizeof(Record)));
     }
-    return reinterpret_cast<Record*>(TakeBuffer(Kind::kBytes, sizeof(Record)));
   }
 
-  Anybuf** Take(Anybuf***) {
-    Out* out = Add(Kind::kNode);
-    return out ? reinterpret_cast<Anybuf**>(&out->object) : nullptr;
+  template <typename Object>
+  Object** Take(Object***) {
+    constexpr Kind kKind = kOwnsNodes<Object>        ? Kind::kRecord
+                           : std::is_class_v<Object> ? Kind::kNode
+                                                     : Kind::kBlock;
+    in_.BeforeObject(sizeof(Object));
+    uint8_t* place = TakeOut(kKind, sizeof(Object*));
+    outs_.back().type = &TypeOf<Object>();
+    return reinterpret_cast<Object**>(place);
   }
-  template <typename Record>
-  Record** Take(Record***) {
-    Out* out = Add(Kind::kRecord);
-    outs_[outCount_ - 1].type = &TypeOf<Record>();
-    in_.BeforeRecord(sizeof(Record));
-    return out ? reinterpret_cast<Record**>(&out->object) : nullptr;
-  }
-  uint8_t* Take(uint8_t**) { return TakeBuffer(Kind::kBytes, 1); }
-  char* Take(char**) { return reinterpret_cast<char*>(TakeBuffer(Kind::kText, 0)); }
+  uint8_t* Take(uint8_t**) { return TakeOut(Kind::kBytes, 1); }
+  char* Take(char**) { return reinterpret_cast<char*>(TakeOut(Kind::kText, 0)); }
   int32_t* Take(int32_t**) {
-    Out* out = Add(Kind::kNumber);
-    return out ? &out->number : nullptr;
+    return reinterpret_cast<int32_t*>(TakeOut(Kind::kNumber, sizeof(int32_t)));
   }
   uint32_t* Take(uint32_t**) {
     if (!std::exchange(sizeIsNext_, false)) {
       return reinterpret_cast<uint32_t*>(Take(static_cast<int32_t**>(nullptr)));
     }
-    return IsNulled() ? nullptr : &outs_[outCount_ - 1].buffer.size;
+    return IsNulled() ? nullptr : &outs_.back().buffer.size;
   }
 
-  uint8_t* TakeBuffer(Kind kind, uint32_t fixedSize);
-  Out* Add(Kind kind);  // Null when the argument is to be.
+  uint8_t* TakeOut(Kind kind, uint32_t fixedSize);  // Null when the argument is to be.
   bool IsNulled();
 
   void ExpectKept() const;
@@ -202,14 +196,9 @@ class Invocation {
   std::optional<int64_t> length_;
   bool sizeIsNext_ = false;
   int32_t time_ = 0;
-  ByteVector before_;  // The bytes of `subject_`, where the function may change it.
-  std::array<Out, 3> outs_;
-  size_t outCount_ = 0;
-  std::array<size_t, 4> pointers_{};  // The out arguments, sizes among them.
-  size_t pointerCount_ = 0;
+  ByteVector before_;  // The bytes of `subject_`.
+  std::deque<Out> outs_;
+  std::vector<size_t> pointers_;  // The out arguments, sizes among them.
 };
-
-// What a record is written as, or the code.
-std::string Written(const RecordType& type, void* record);
 
 #endif  // VELKORD_TESTS_INVOCATION_H_

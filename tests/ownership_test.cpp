@@ -7,7 +7,7 @@ TEST(Nodes, KeepTheirNeighbours) {
   Anybuf* oid = ToNode("06 01 2A | 30 00").release();
   const NodePtr parameter(oid->next);
   EXPECT_EQ(Made(ASN1_SetAlgorithmIdentifier, 0U, oid, nullptr, parameter.get()),
-            "16: 30 05 06 01 2A 30 00");
+            "30 05 06 01 2A 30 00");
   EXPECT_EQ(Hex(parameter), "30 00");
 }
 
@@ -21,7 +21,7 @@ TEST(Records, MayBeUsedAsTheTypeThatSharesTheirFunctions) {
   EXPECT_EQ(ASN1_PKCS10RequestSetCertificationRequestInfo(request, sequence.get()), 0);
   EXPECT_EQ(ASN1_PKCS10RequestSetAlgorithmIdentifier(request, sequence.get()), 0);
   EXPECT_EQ(ASN1_PKCS10RequestSetSignature(request, ToNode("03 02 04 F0").get()), 0);
-  EXPECT_EQ(Made(ASN1_PKCS10RequestWriteData, request), "16: 30 08 30 00 30 00 03 02 04 F0");
+  EXPECT_EQ(Made(ASN1_PKCS10RequestWriteData, request), "30 08 30 00 30 00 03 02 04 F0");
   ASN1_FreePKCS10Request(request);
 }
 
