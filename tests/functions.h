@@ -18,8 +18,8 @@ enum class Writes { kAll, kAllOrNone, kSome };
 struct Rule {
   static constexpr int32_t kTakesNoNull = 1;
 
-  const char* prefix;            // Of the functions' names.
-  int32_t refusal;               // The code where a null pointer stands for an out argument.
+  const char* prefix = "";       // Of the functions' names.
+  int32_t refusal = 0;           // The code where a null pointer stands for an out argument.
   Writes writes = Writes::kAll;  //
   const char* mayBeNull = "";    // The out arguments that are not required.
   bool writesBeforeFailing = false;

@@ -113,10 +113,10 @@ class Invocation {
       return *reinterpret_cast<const Value*>(buffer.bytes.data());
     }
 
-    Kind kind;
-    size_t parameter;
-    uint32_t fixedSize;  // Where no size goes with it.
-    bool isSized;
+    Kind kind = Kind::kNode;
+    size_t parameter = 0;
+    uint32_t fixedSize = 0;  // Where no size goes with it.
+    bool isSized = false;
     Buffer buffer;
     const RecordType* type = nullptr;
   };
