@@ -16,7 +16,7 @@ std::string Written(const RecordType& type, void* record) {
 }  // namespace
 
 Invocation::~Invocation() {
-  for (const Out& out : outs_) {
+  for (const Out& out : Outs()) {
     if (!out.IsWritten()) continue;
     if (out.kind == Kind::kNode) ASN1_FreeAnybuf(out.As<Anybuf*>());
     if (out.kind == Kind::kRecord) out.type->release(out.As<void*>());
@@ -28,18 +28,22 @@ uint8_t* Invocation::TakeOut(Kind kind, uint32_t fixedSize) {
   const bool isBuffer = kind == Kind::kBytes || kind == Kind::kText;
   sizeIsNext_ = isBuffer && isSize_[at_];
   const bool hasRoom = isBuffer && (fixedSize == 0 || isSize_[at_] || isInteger_[at_]);
-  Buffer buffer(hasRoom ? in_.Room(function_) : fixedSize);
-  outs_.push_back({kind, at_ - 1, fixedSize, sizeIsNext_, std::move(buffer)});
-  return IsNulled() ? nullptr : outs_.back().buffer.Data();
+  Out& out = outs_[outCount_++];
+  out.kind = kind;
+  out.parameter = at_ - 1;
+  out.fixedSize = fixedSize;
+  out.isSized = sizeIsNext_;
+  out.buffer = Buffer(hasRoom ? in_.Room(function_) : fixedSize);
+  return IsNulled() ? nullptr : out.buffer.Data();
 }
 
 bool Invocation::IsNulled() {
-  pointers_.push_back(at_ - 1);
-  return pointers_.size() - 1 == nulled_;
+  pointers_[pointerCount_] = at_ - 1;
+  return pointerCount_++ == nulled_;
 }
 
 void Invocation::ExpectKept() const {
-  for (const Out& out : outs_) {
+  for (const Out& out : Outs()) {
     const bool mayChange = function_.rule->writesBeforeFailing && out.kind > Kind::kBlock;
     EXPECT_TRUE(mayChange || (!out.IsWritten() && out.buffer.IsUntouched(0)));
   }
@@ -49,16 +53,18 @@ void Invocation::ExpectKept() const {
 void Invocation::Settle(int32_t code) {
   if (code == 0) in_.LetGo();
   in_.ExpectUnchanged();
-  for (Out& out : outs_) out.Settle(code, *function_.rule);
+  for (size_t at = 0; at < outCount_; ++at) outs_[at].Settle(code, *function_.rule);
   if (code != 0 || nulled_ != kNone || function_.rule->writes == Writes::kSome) return;
   const auto written = std::count_if(outs_.begin(), outs_.end(), std::mem_fn(&Out::IsWritten));
-  EXPECT_TRUE(written == static_cast<ptrdiff_t>(outs_.size()) ||
+  EXPECT_TRUE(written == static_cast<ptrdiff_t>(outCount_) ||
               (written == 0 && function_.rule->writes == Writes::kAllOrNone))
       << function_.name;
 }
 
 void Invocation::Out::Settle(int32_t code, const Rule& rule) {
-  const bool mustWrite = kind == Kind::kBytes && code == 0 && rule.writes == Writes::kAll;
+  // Any bytes and any number may be written, those that stand for none too.
+  const bool isValue = kind == Kind::kBytes || kind == Kind::kNumber;
+  const bool mustWrite = isValue && code == 0 && rule.writes == Writes::kAll;
   if (kind != Kind::kText && !isSized && (mustWrite || !buffer.IsUntouched(0))) {
     buffer.size = kind == Kind::kBytes && code > 0 ? static_cast<uint32_t>(code) : fixedSize;
   }
@@ -114,7 +120,7 @@ bool Invocation::HasResults() const {
 std::vector<ByteVector> Invocation::Bytes() const {
   std::vector<ByteVector> all;
   if (!HasResults()) return all;
-  for (const Out& out : outs_) all.push_back(out.Bytes());
+  for (const Out& out : Outs()) all.push_back(out.Bytes());
   return all;
 }
 
@@ -124,10 +130,10 @@ std::string Invocation::Results() const {
     return ToHex(outs_[0].As<uint8_t*>(), *outs_[1].As<uint32_t*>());
   }
   std::string text;
-  for (const Out& out : outs_) {
+  for (const Out& out : Outs()) {
     if (!out.IsWritten()) continue;
     if (!text.empty()) text += ' ';
-    if (outs_.size() > 1) text += function_.parameters[out.parameter] + "=";
+    if (outCount_ > 1) text += function_.parameters[out.parameter] + "=";
     text += out.Text();
   }
   return text;

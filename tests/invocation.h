@@ -5,7 +5,7 @@
 #ifndef VELKORD_TESTS_INVOCATION_H_
 #define VELKORD_TESTS_INVOCATION_H_
 
-#include <deque>
+#include <array>
 #include <optional>
 #include <tuple>
 #include <type_traits>
@@ -66,7 +66,7 @@ class Invocation {
   int32_t Run() { return function_.run(*this); }
 
   // The parameters of the out arguments, those of sizes among them.
-  size_t OutCount() const { return pointers_.size(); }
+  size_t OutCount() const { return pointerCount_; }
   const std::string& OutName(size_t number) const {
     return function_.parameters[pointers_[number]];
   }
@@ -117,7 +117,7 @@ class Invocation {
     size_t parameter = 0;
     uint32_t fixedSize = 0;  // Where no size goes with it.
     bool isSized = false;
-    Buffer buffer;
+    Buffer buffer{0};
     const RecordType* type = nullptr;
   };
 
@@ -165,7 +165,7 @@ class Invocation {
                                                      : Kind::kBlock;
     in_.BeforeObject(sizeof(Object));
     uint8_t* place = TakeOut(kKind, sizeof(Object*));
-    outs_.back().type = &TypeOf<Object>();
+    LastOut().type = &TypeOf<Object>();
     return reinterpret_cast<Object**>(place);
   }
   uint8_t* Take(uint8_t**) { return TakeOut(Kind::kBytes, 1); }
@@ -177,10 +177,12 @@ class Invocation {
     if (!std::exchange(sizeIsNext_, false)) {
       return reinterpret_cast<uint32_t*>(Take(static_cast<int32_t**>(nullptr)));
     }
-    return IsNulled() ? nullptr : &outs_.back().buffer.size;
+    return IsNulled() ? nullptr : &LastOut().buffer.size;
   }
 
   uint8_t* TakeOut(Kind kind, uint32_t fixedSize);  // Null when the argument is to be.
+  Out& LastOut() { return outs_[outCount_ - 1]; }
+  std::span<const Out> Outs() const { return std::span(outs_).first(outCount_); }
   bool IsNulled();
 
   void ExpectKept() const;
@@ -197,8 +199,11 @@ class Invocation {
   bool sizeIsNext_ = false;
   int32_t time_ = 0;
   ByteVector before_;  // The bytes of `subject_`.
-  std::deque<Out> outs_;
-  std::vector<size_t> pointers_;  // The out arguments, sizes among them.
+  // Without blocks of their own, which would take the fuzzers most of their time.
+  std::array<Out, 3> outs_;
+  size_t outCount_ = 0;
+  std::array<size_t, 4> pointers_{};  // The out arguments, sizes among them.
+  size_t pointerCount_ = 0;
 };
 
 #endif  // VELKORD_TESTS_INVOCATION_H_
