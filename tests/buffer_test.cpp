@@ -29,33 +29,32 @@ void ExpectSameInPlace(const ByteVector& input, size_t room, size_t step, const 
 
 template <typename Key>
 void EncodeInPlace(int32_t (*encode)(const Key*, uint8_t*, uint32_t*), size_t room) {
-  ExpectSameInPlace(Numbered("", sizeof(Key)), room, 4,
-                    [=](auto* in, auto, auto* out, auto* given) {
-                      EXPECT_EQ(encode(reinterpret_cast<Key*>(in), out, given), 0);
-                    });
-}
-
-template <typename Key>
-void DecodeInPlace(int32_t (*decode)(const uint8_t*, uint32_t, Key*), const ByteVector& der) {
-  ExpectSameInPlace(der, sizeof(Key), 4, [=](auto* in, auto size, auto* out, auto* given) {
-    EXPECT_EQ(decode(in, size, reinterpret_cast<Key*>(out)), 0);
-    *given = sizeof(Key);
+  ExpectSameInPlace(Numbered("", sizeof(Key)), room, 4, [=](auto* in, auto, auto* out, auto* size) {
+    encode(reinterpret_cast<Key*>(in), out, size);
   });
 }
 
-template <typename Key, int32_t (*kDecode)(Key*, const uint8_t*, int32_t)>
-int32_t KeyLast(const uint8_t* der, uint32_t size, Key* key) {
-  return kDecode(key, der, static_cast<int32_t>(size));
+// `decode` has a key as its last argument.
+template <typename Key, typename Decode>
+void DecodeInPlace(const ByteVector& der, Decode decode) {
+  ExpectSameInPlace(der, sizeof(Key), 4, [=](auto* in, auto size, auto* out, auto* given) {
+    decode(in, size, reinterpret_cast<Key*>(out));
+    *given = sizeof(Key);
+  });
 }
 
 TEST(InPlace, KeysAreAsApart) {
   EncodeInPlace(ZantEncodePublicKey, 528);
   EncodeInPlace(ZantEncodePrivateKey, 1452);
   EncodeInPlace(ASN1_EccPubkey2Der, 312);
-  DecodeInPlace(KeyLast<ZantPublicKey, ZantDecodePublicKey>, FromHex("@rsa2048_public.der"));
-  DecodeInPlace(KeyLast<ZantPrivateKey, ZantDecodePrivateKey>, FromHex("@rsa2048_pkcs1.der"));
-  DecodeInPlace(ASN1_Der2EccPubkey, Numbered("30 46 30 00 03 42 00 04", 64));
-  DecodeInPlace(ASN1_Der2EccPrikey, Numbered("30 2D 05 00 05 00 04 27 30 25 02 01 01 04 20", 32));
+  const auto rsa = [](const auto& decode) {
+    return [=](auto* der, auto size, auto* key) { decode(key, der, static_cast<int32_t>(size)); };
+  };
+  DecodeInPlace<ZantPublicKey>(FromHex("@rsa2048_public.der"), rsa(ZantDecodePublicKey));
+  DecodeInPlace<ZantPrivateKey>(FromHex("@rsa2048_pkcs1.der"), rsa(ZantDecodePrivateKey));
+  DecodeInPlace<EccPubkey>(Numbered("30 46 30 00 03 42 00 04", 64), ASN1_Der2EccPubkey);
+  DecodeInPlace<EccPrikey>(Numbered("30 2D 05 00 05 00 04 27 30 25 02 01 01 04 20", 32),
+                           ASN1_Der2EccPrikey);
 }
 
 TEST(InPlace, ValuesAreAsApart) {
@@ -80,18 +79,18 @@ TEST(InPlace, PairsAreAsApart) {
   for (const auto& [decode, der] :
        {std::pair(&ASN1_SM2_SM2SignatureDecode, "30 0C 02 04 81 82 83 84 02 04 11 22 33 44"),
         std::pair(&ASN1_SM2_PubkeyDecode, "03 0A 00 04 81 82 83 84 11 22 33 44")}) {
-    const auto inTurn = [decode = decode](auto* in, auto size, auto* out, auto* given) {
-      // The length of the first number too may lie over the second one.
-      decode(out + 4, reinterpret_cast<uint32_t*>(out), out + 8, given, in, size);
-      *given += 8;
-    };
-    ExpectSameInPlace(FromHex(der), 12, 4, inTurn);
-    const auto swapped = [decode = decode](auto* in, auto size, auto* out, auto* given) {
-      uint32_t firstSize = 0;
-      decode(out + 4, &firstSize, out, given, in, size);
-      *given += firstSize;
-    };
-    ExpectSameInPlace(FromHex(der), 8, 1, swapped);
+    // The length of the first number too may lie over the second one.
+    ExpectSameInPlace(FromHex(der), 12, 4,
+                      [decode = decode](auto* in, auto size, auto* out, auto* given) {
+                        decode(out + 4, reinterpret_cast<uint32_t*>(out), out + 8, given, in, size);
+                        *given += 8;
+                      });
+    ExpectSameInPlace(FromHex(der), 8, 1,
+                      [decode = decode](auto* in, auto size, auto* out, auto* given) {
+                        uint32_t firstSize = 0;
+                        decode(out + 4, &firstSize, out, given, in, size);
+                        *given += firstSize;
+                      });
   }
 }
 
@@ -100,7 +99,7 @@ TEST(Sizes, BeyondTheirWidthAreRefused) {
   uint8_t byte = 0;
   uint32_t size = 7;
   const Anybuf huge = {&byte, 0xFFFFFFFF, 0, 2, 4, nullptr, nullptr};
-  EXPECT_EQ(Made(ASN1_WriteSequence, &huge), "-1");
+  EXPECT_EQ(Make(ASN1_WriteSequence, &huge), nullptr);
   ASN1_SM2_SM2SignatureEncode(&byte, 0xFFFFFFFF, &byte, 1, &byte, &size);
   ASN1_SM2_PrikeyEncode(&byte, 0xFFFFFFFF, &byte, &size);
   ASN1_SM2_PubkeyEncode(&byte, 0xFFFFFFFF, &byte, 1, &byte, &size);

@@ -6,19 +6,25 @@
 
 namespace {
 
-// The arguments of a call as text: none and null are null pointers. Before a node that the function
-// may release, `kept` says that it does not.
+// The arguments of a call as text: none and null are null pointers. Of a node that the function may
+// release it does not release what follows `kept`, the node itself or its neighbour.
 class TextInputs : public Inputs {
  public:
   explicit TextInputs(const Arguments& in) : in_(in) {}
+  ~TextInputs() override {
+    if (given_ != nullptr && !kept_.empty()) given_->next = nullptr;
+  }
 
   int64_t Number() override { return std::stoll(Next(), nullptr, 0); }
   Anybuf* Node() override { return Keep(ToNode(Next())); }
   // What the function does not release shows under the sanitizers.
   Anybuf* GivenNode() override {
-    const std::string text = Next();
-    if (text.starts_with("kept ")) return Keep(ToNode(text.substr(5)));
-    return (given_ = ToNode(text)).get();
+    const std::vector<std::string> parts = Split(Next(), "kept ");
+    Anybuf* kept = parts.size() == 1 ? nullptr : Keep(ToNode(parts[1]));
+    if (parts[0].empty()) return kept;
+    given_ = ToNode(parts[0]);
+    if (kept != nullptr) given_->next = kept;
+    return given_.get();
   }
   void LetGo() override { std::ignore = given_.release(); }
   Block Bytes(size_t size) override {

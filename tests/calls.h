@@ -17,6 +17,7 @@ std::string LookUp(const Arguments& in);
 // An inspection record over a subject and extensions.
 using InspectionPtr = std::unique_ptr<X509Cert, FreeWith<X509CertFree>>;
 InspectionPtr Inspect(NodePtr subject, NodePtr extensions);
+std::string SubjectEntries(const X509Cert& record);
 
 // The results of a call, after its code when that is above 0 or goes with results, or the code
 // alone.

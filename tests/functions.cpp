@@ -1,6 +1,5 @@
 #include "functions.h"
 
-#include <cstring>
 #include <map>
 
 #include "invocation.h"
@@ -71,32 +70,38 @@ struct Lists {
   void Add(const std::string& name, std::vector<std::string> parameters, Type* function) {
     const Rule* rule = kRules;
     while (!name.starts_with(rule->prefix)) ++rule;
-    const auto address = reinterpret_cast<AnyFunction>(function);
-    names[name] = addresses[address] =
-        &functions.emplace_back(Function{name, std::move(parameters), address, rule, nullptr, {}});
+    functions.push_back(
+        {name, std::move(parameters), reinterpret_cast<AnyFunction>(function), rule, nullptr, {}});
     Classify(functions.back(), function);
   }
 
   std::vector<Function> functions;
-  std::map<std::string, const Function*> names;
-  std::map<AnyFunction, const Function*> addresses;
   std::map<std::string, RecordType*> types;
 };
 
 const Lists kLists;
 
-template <typename Map>
-auto Find(const Map& map, const typename Map::key_type& key) {
-  const auto found = map.find(key);
-  return found == map.end() ? nullptr : found->second;
-}
-
 }  // namespace
 
 const std::vector<Function>& Functions() { return kLists.functions; }
-const Function& FindFunction(AnyFunction address) { return *kLists.addresses.at(address); }
-const Function* FindFunction(const std::string& name) { return Find(kLists.names, name); }
-const RecordType* FindRecordType(const std::string& name) { return Find(kLists.types, name); }
+
+const Function* FindFunction(const std::string& name) {
+  for (const Function& function : kLists.functions) {
+    if (function.name == name) return &function;
+  }
+  return nullptr;
+}
+
+const RecordType* FindRecordType(const std::string& name) {
+  const auto found = kLists.types.find(name);
+  return found == kLists.types.end() ? nullptr : found->second;
+}
+
+int32_t CallLibrary(const Function& function, const LibraryCall& call, const Check& isAsBefore) {
+  const int32_t code = callHook ? callHook(function, call, isAsBefore) : call();
+  if (code < 0) isAsBefore();
+  return code;
+}
 
 std::string RecordType::Describe(const void* record) const {
   std::string text;

@@ -3,13 +3,14 @@
 #ifndef VELKORD_TESTS_FUNCTIONS_H_
 #define VELKORD_TESTS_FUNCTIONS_H_
 
+#include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
-#include "library_call.h"
-
 class Invocation;
 struct Function;
+using AnyFunction = void (*)();  // Stands for a function of any type.
 
 // Which out arguments a success writes.
 enum class Writes { kAll, kAllOrNone, kSome };
@@ -56,11 +57,18 @@ struct Function {
   std::function<int32_t(Invocation&)> run;  // Empty for one that returns a pointer.
 };
 
-const std::vector<Function>& Functions();
-const Function& FindFunction(AnyFunction address);
-
 // Null for an unknown name.
 const Function* FindFunction(const std::string& name);
 const RecordType* FindRecordType(const std::string& name);
+
+const std::vector<Function>& Functions();
+
+// How the tests call a function: plainly, unless a program puts another way in place that makes the
+// same call several times, as the one that lets requests for memory fail does. Gives the code;
+// after a failure `isAsBefore` expects that nothing has changed.
+using LibraryCall = std::function<int32_t()>;
+using Check = std::function<void()>;
+inline int32_t (*callHook)(const Function&, const LibraryCall&, const Check&) = nullptr;
+int32_t CallLibrary(const Function& function, const LibraryCall& call, const Check& isAsBefore);
 
 #endif  // VELKORD_TESTS_FUNCTIONS_H_

@@ -55,10 +55,9 @@ uint32_t ReducedTag(std::span<const uint8_t> bytes) {
 }
 
 NodePtr MakeNode(const ByteVector& bytes) {
-  Anybuf* node = nullptr;
-  EXPECT_EQ(ASN1_CreateAnybuf(bytes.data(), Size(bytes), 0, &node), 0);
+  NodePtr node = Make(ASN1_CreateAnybuf, bytes.data(), Size(bytes), uint8_t{0});
   node->dataType = ReducedTag(bytes);
-  return NodePtr(node);
+  return node;
 }
 
 NodePtr ToNode(const std::string& text) {
@@ -79,9 +78,7 @@ NodePtr ToNode(const std::string& text) {
 }
 
 NodePtr Sequence(const std::string& elements) {
-  Anybuf* node = nullptr;
-  EXPECT_EQ(ASN1_WriteSequence(ToNode(elements).get(), &node), 0);
-  return NodePtr(node);
+  return Make(ASN1_WriteSequence, ToNode(elements).get());
 }
 
 std::string Describe(const Anybuf* chain) {

@@ -11,7 +11,6 @@
 #include <vector>
 
 #include "Velkord.h"
-#include "library_call.h"
 
 using ByteVector = std::vector<uint8_t>;
 
@@ -45,9 +44,6 @@ uint32_t ReducedTag(std::span<const uint8_t> bytes);
 // One SEQUENCE over elements.
 NodePtr Sequence(const std::string& elements);
 
-// The bytes of a node as text.
-inline std::string Hex(const NodePtr& node) { return ToHex(node->data, node->dataLen); }
-
 // A chain as text, in the shortest of the forms above.
 std::string Describe(const Anybuf* chain);
 
@@ -61,15 +57,11 @@ inline void DirtyHeap(size_t size) {
   const std::vector<ByteVector> blocks(8, ByteVector(size, 0xA5));
 }
 
-// What a function that makes a node gives, its out pointer being the last argument: the node as
-// text, or its code. A failing call must leave the out pointer alone.
+// What a function makes whose last argument is the out pointer of a node; null after a failure.
 template <typename... Parameters, typename... In>
-std::string Made(int32_t (*function)(Parameters...), In... in) {
-  Anybuf untouched{};
-  Anybuf* node = &untouched;
-  const int32_t code = CallLibrary(
-      function, [&] { return function(in..., &node); }, [&] { EXPECT_EQ(node, &untouched); });
-  return code == 0 ? Describe(NodePtr(node).get()) : std::to_string(code);
+NodePtr Make(int32_t (*function)(Parameters...), In... in) {
+  Anybuf* node = nullptr;
+  return function(in..., &node) == 0 ? NodePtr(node) : nullptr;
 }
 
 // A caller's buffer, larger than any case fills it.

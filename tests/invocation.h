@@ -95,7 +95,7 @@ class Invocation {
         return static_cast<int32_t>(std::apply(function, arguments));
       }
     };
-    const int32_t code = CallLibrary(function, call, [this] { ExpectKept(); });
+    const int32_t code = CallLibrary(function_, call, [this] { ExpectKept(); });
     Settle(code);
     return code;
   }

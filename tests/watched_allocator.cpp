@@ -10,7 +10,6 @@ extern "C" {
 void* __real_malloc(size_t size);
 void* __real_calloc(size_t count, size_t size);
 void __real_free(void* block);
-void __real_tzset();
 
 static bool Refused() { return watch.on && ++watch.requests == watch.failing; }
 
@@ -40,11 +39,6 @@ void __wrap_free(void* block) {
     watch.on = true;
   }
   __real_free(block);
-}
-
-void __wrap_tzset() {
-  ++watch.zoneReads;
-  __real_tzset();
 }
 
 }  // extern "C"

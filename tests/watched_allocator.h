@@ -1,5 +1,4 @@
-// The C allocator, and tzset, as the objects of a program see them that is linked with --wrap for
-// these functions.
+// The C allocator as the objects of a program see it that is linked with --wrap for its functions.
 #ifndef VELKORD_TESTS_WATCHED_ALLOCATOR_H_
 #define VELKORD_TESTS_WATCHED_ALLOCATOR_H_
 
@@ -14,17 +13,15 @@ struct AllocatorWatch {
   bool on = false;
   size_t failing = 0;
   size_t requests = 0;
-  std::map<void*, size_t> blocks;
-  std::vector<uint8_t> released;  // What the last block that was released held.
-  size_t zoneReads = 0;           // How often the C library was told to read the zone.
+  std::map<void*, size_t> blocks{};
+  std::vector<uint8_t> released{};  // What the last block that was released held.
 };
 extern AllocatorWatch watch;
 
 // Runs `work` watched, with nothing noted before.
 template <typename Work>
 auto Watched(size_t failing, Work work) {
-  watch = {
-      .on = true, .failing = failing, .requests = 0, .blocks = {}, .released = {}, .zoneReads = 0};
+  watch = {true, failing};
   const auto result = work();
   watch.on = false;
   return result;

@@ -11,7 +11,7 @@ long Offset(std::time_t time) {
   return fields.tm_gmtoff;
 }
 
-std::string Write(int32_t time) { return Made(ASN1_WriteGeneralizedTime, &time); }
+std::string Write(int32_t time) { return Describe(Make(ASN1_WriteGeneralizedTime, &time).get()); }
 
 int32_t Read(const std::string& text) {
   return std::stoi(Call("ASN1_ReadGeneralizedTime", {text}));
