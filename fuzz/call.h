@@ -15,6 +15,8 @@ void TestInput(ByteView in);
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size);
 
+inline ByteVector Copy(ByteView in) { return {in.begin(), in.end()}; }
+
 // Bytes again and again, up to a size.
 ByteVector Repeat(ByteView in, size_t size);
 
@@ -24,28 +26,24 @@ class ByteInputs : public Inputs {
  public:
   static constexpr uint32_t kOwnType = UINT32_MAX;
 
-  ByteInputs(std::initializer_list<ByteView> values) : ByteInputs(values.begin(), values.size()) {}
-  ByteInputs(const Values& values) : ByteInputs(values.data(), values.size()) {}
+  ByteInputs(ByteView value) { values_.fill(value); }
+  ByteInputs(const Values& values) {
+    for (size_t at = 0; at < values_.size() && !values.empty(); ++at) {
+      values_[at] = values[std::min(at, values.size() - 1)];
+    }
+  }
 
   int64_t Number() override;
   Anybuf* Node() override;
   Block Bytes(size_t size) override;
   Block Text(bool isTerminated) override;
-  size_t Room(const Function&) override { return room; }
+  size_t Room(const Function& function) override;
   // A call is over: the next one begins with the first value.
   void ExpectUnchanged() override;
 
-  size_t room = 0;           // Of out buffers, as the contract of a function asks for it.
   uint32_t type = kOwnType;  // Of nodes, or that of their first octets.
 
  private:
-  template <typename Value>
-  ByteInputs(const Value* values, size_t count) {
-    for (size_t at = 0; at < values_.size() && count != 0; ++at) {
-      values_[at] = values[std::min(at, count - 1)];
-    }
-    room = values_[0].size();
-  }
   ByteView Next() { return values_[std::min(at_++, values_.size() - 1)]; }
 
   std::array<ByteView, 3> values_;
@@ -57,26 +55,27 @@ class ByteInputs : public Inputs {
 // The results of a call; none after a failure.
 Values Call(const Function& function, ByteInputs& in);
 
-template <typename Type>
-const Function& Find(Type* function) {
-  return FindFunction(reinterpret_cast<AnyFunction>(function));
+template <auto kFunction>
+Values Call(ByteInputs in) {
+  static const auto isMeant = [](const Function& one) {
+    return one.address == reinterpret_cast<AnyFunction>(kFunction);
+  };
+  static const Function& function = *std::find_if(Functions().begin(), Functions().end(), isMeant);
+  return Call(function, in);
 }
 
-// Out buffers have the room of the first value where none is told.
-template <typename Type>
-Values Call(Type* function, ByteInputs in, std::optional<size_t> room = {}) {
-  in.room = room.value_or(in.room);
-  return Call(Find(function), in);
+// What a function takes apart, put together again by another one, comes apart to the same.
+template <auto kRead, auto kWrite>
+void Rebuild(const Values& in) {
+  const Values parts = Call<kRead>(in);
+  if (parts.empty()) return;
+  EXPECT_EQ(Call<kRead>(Call<kWrite>(parts)), parts);
 }
 
-// Those of the functions that an Invocation calls.
-std::vector<const Function*> Select(bool (*isMeant)(const Function&));
-
-// The node that a function makes, or null.
-template <typename... Parameters, typename... In>
-NodePtr Make(int32_t (*function)(Parameters...), In... in) {
-  Anybuf* node = nullptr;
-  return function(in..., &node) == 0 ? NodePtr(node) : nullptr;
+// What a function makes of a value becomes that value again by another one.
+template <auto kThere, auto kBack>
+void ComesBack(const Values& in) {
+  EXPECT_EQ(Call<kBack>(Call<kThere>(in)), Values{in[0]});
 }
 
 #endif  // VELKORD_FUZZ_CALL_H_

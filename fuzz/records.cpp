@@ -39,13 +39,12 @@ void Restore(PKCS7Context& record) {
   }
 }
 
-template <typename Record>
-bool IsRestored() {
-  TypeOf<Record>().restore = [](void* record) { Restore(*static_cast<Record*>(record)); };
+template <typename... Record>
+bool AreRestored() {
+  ((TypeOf<Record>().restore = [](void* record) { Restore(*static_cast<Record*>(record)); }), ...);
   return true;
 }
-const bool kAreRestored =
-    IsRestored<TBSCertificate>() && IsRestored<PKCS10>() && IsRestored<PKCS7Context>();
+const bool kAreRestored = AreRestored<TBSCertificate, PKCS10, PKCS7Context>();
 
 // A field that is set can be set again.
 void Set(const RecordType& type, ByteInputs& in) {
@@ -70,31 +69,28 @@ void Inspect(const ByteVector& in) {
   for (const CertEntry* entry = record->subjectEntries; entry != nullptr; entry = entry->next) {
     EXPECT_TRUE(entry->oid != nullptr && (entry->value != nullptr || entry->valueLen == 0));
   }
-  constexpr char kOid[] = "2.5.29.17";
   const Anybuf* extensions = record->tbs->extensions;
-  Buffer value(extensions == nullptr ? 0 : extensions->dataLen);
-  EXPECT_EQ(X509CertGetOIDValue(record, kOid, sizeof kOid - 1, value.Data(), &value.size),
-            extensions == nullptr ? -1 : 0);
-  EXPECT_TRUE(value.IsUntouched(value.size == Buffer::kNoSize ? 0 : value.size));
+  const Values oid{FromHex("\"2.5.29.17\""), ByteVector(extensions ? extensions->dataLen : 0), {}};
+  ByteInputs inputs(oid);
+  EXPECT_EQ(Invocation(*FindFunction("X509CertGetOIDValue"), inputs, record).Run(),
+            extensions ? 0 : -1);
   X509CertFree(record);
 }
 
 }  // namespace
 
 void TestInput(ByteView bytes) {
-  Inspect({bytes.begin(), bytes.end()});
-  ByteInputs in{bytes};
-  static const auto kDecoders = Select([](const Function& function) {
-    return function.name.ends_with("Decode") && function.parameters.back() == "out";
-  });
-  for (const Function* decode : kDecoders) {
-    const Values once = Call(*decode, in);
-    if (once.empty() || once[0].empty()) continue;
-    ByteInputs again(once);
-    EXPECT_EQ(Call(*decode, again), once);
+  Inspect(Copy(bytes));
+  ByteInputs in(bytes);
+  for (const Function& function : Functions()) {
+    if (function.name.ends_with("Decode") && function.parameters.back() == "out") {
+      const Values once = Call(function, in);
+      if (once.empty() || once[0].empty()) continue;
+      ByteInputs again(once);
+      EXPECT_EQ(Call(function, again), once);
+    } else if (function.subject && function.subject->write == &function &&
+               function.subject->create) {
+      Set(*function.subject, in);
+    }
   }
-  static const auto kWriters = Select([](const Function& function) {
-    return function.subject && function.subject->write == &function && function.subject->create;
-  });
-  for (const Function* write : kWriters) Set(*write->subject, in);
 }
