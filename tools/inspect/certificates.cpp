@@ -10,8 +10,6 @@ using velkord::Bytes, velkord::Check, velkord::Errc, velkord::Handle, velkord::L
 
 namespace {
 
-constexpr uint32_t kIntegerTag = 2;
-
 Handle<TBSCertificate> DecodeSignedPart(const Anybuf& source) {
   // Version 1 is the default value, so its element is left out and the serial number comes first,
   // where the decoder looks for the version.

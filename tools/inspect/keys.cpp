@@ -44,16 +44,17 @@ Bytes FieldNumber(Bytes field) {
   return field;
 }
 
-// Returns the algorithm and the curve, which is empty when the parameter is no identifier.
+// Returns the algorithm and the curve, which is empty when the parameter is missing, NULL or a
+// SEQUENCE.
 std::pair<std::string, std::string> ShowKeyAlgorithm(const Anybuf& algorithm, std::ostream& out) {
   NodePtr id;
   NodePtr curve;
   Check(ASN1_GetAlgorithmIdentifier(&algorithm, Out(id), nullptr, Out(curve)),
         "open the key algorithm");
-  std::pair<std::string, std::string> shown(ObjectId(*id, "read the key algorithm"), "");
+  std::pair<std::string, std::string> shown(IdText(*id, "read the key algorithm"), "");
   out << "  key algorithm: " << shown.first << '\n';
   if (curve != nullptr) {
-    shown.second = ObjectId(*curve, "read the curve");
+    shown.second = IdText(*curve, "read the curve");
     out << "  curve: " << shown.second << '\n';
   }
   return shown;
@@ -104,7 +105,7 @@ NodePtr ShowPublicKeyInfo(Bytes der, std::ostream& out) {
 }
 
 NodePtr ShowPrivateKeyInfo(Bytes der, std::ostream& out) {
-  // Its kind was told by a version and an algorithm.
+  // KindOf found a version, an algorithm and an OCTET STRING here.
   const SecretNodePtr version = SplitSecret(der, "split the key info");
   const Anybuf& algorithm = *version->next;
   const auto [id, curve] = ShowKeyAlgorithm(algorithm, out);

@@ -7,10 +7,11 @@
 
 #include "velkord.hpp"
 
-// Each takes DER that KindOf tells to be of its kind, puts indented lines, each with its line end,
-// and throws std::runtime_error naming the step that failed and its code. What was signed comes
-// back written again from its decoded records; for other kinds the result is null. Of keys nothing
-// but what is public is shown, and private values that were copied are wiped.
+// Each takes DER of its kind, as KindOf finds it, puts indented lines, each with its line end, and
+// throws std::runtime_error naming the step that failed and its code. What was signed comes back
+// written again from its decoded record, and for a certificate from that of its signed part too;
+// for other kinds the result is null. Of keys nothing but what is public is shown, and private
+// values that were copied are wiped.
 using Show = velkord::NodePtr(velkord::Bytes der, std::ostream& out);
 
 Show ShowCertificate;

@@ -10,8 +10,6 @@ using velkord::Bytes, velkord::Chain, velkord::ChainBuilder, velkord::Check, vel
 
 namespace {
 
-constexpr uint32_t kIntegerTag = 2;
-
 // The places are the numbers of the reasons; 7 has none.
 constexpr std::string_view kReasons[] = {
     "unspecified",   "keyCompromise",        "cACompromise",    "affiliationChanged",
@@ -49,20 +47,16 @@ NodePtr ShowEntry(const Anybuf& element, std::ostream& out) {
   return Make("write an entry", ASN1_CRL_RevokedCertificateWriteData, entry.get());
 }
 
-bool SameBytes(const Anybuf& node, const NodePtr& other) {
-  return std::ranges::equal(View(node), View(*other));
-}
-
 // What comes of the signed part when its record is written again. It is different where nextUpdate
 // has another form than thisUpdate, which it then takes.
-std::string_view SignedPartRemark(const Anybuf& original, const NodePtr& rebuilt) {
-  if (SameBytes(original, rebuilt)) return "identical";
+std::string_view SignedPartRemark(const Anybuf& original, const Anybuf& rebuilt) {
+  const bool same = SameBytes(rebuilt, View(original));
   const NodePtr elements = SplitPair(original, "split the signed part");
-  if (elements->dataType == kIntegerTag &&
-      SameBytes(*rebuilt, Make("shorten the signed part", ASN1_WriteSequence, elements->next))) {
-    return "identical but for its version, which is written only when it is the number 2";
-  }
-  return "different";
+  if (same || elements->dataType != kIntegerTag) return Comparison(same);
+  const NodePtr shortened = Make("shorten the signed part", ASN1_WriteSequence, elements->next);
+  return SameBytes(rebuilt, View(*shortened))
+             ? "identical but for its version, which is written only when it is the number 2"
+             : Comparison(false);
 }
 
 }  // namespace
@@ -97,7 +91,7 @@ NodePtr ShowList(Bytes der, std::ostream& out) {
   }
   out << "  signed part rebuilt: "
       << SignedPartRemark(signedPart,
-                          Make("write the signed part", ASN1_CRL_TbsCertListWriteData, tbs.get()))
+                          *Make("write the signed part", ASN1_CRL_TbsCertListWriteData, tbs.get()))
       << '\n';
   // Around the signed part as it was signed, since the library does not write every version of it.
   return Make("write the list", ASN1_CRL_CertificateListWriteData, list.get());

@@ -1,6 +1,4 @@
 // PKCS#10 certification requests.
-#include <algorithm>
-
 #include "kind.h"
 #include "structures.h"
 
@@ -11,7 +9,7 @@ namespace {
 
 void PutAttribute(std::ostream& out, const Anybuf& attribute) {
   const NodePtr parts = SplitPair(attribute, "split an attribute");
-  const std::string type = ObjectId(*parts, "read the type of an attribute");
+  const std::string type = IdText(*parts, "read the type of an attribute");
   out << "    " << type << ":\n";
   const NodePtr values = Make("split the values of an attribute", ASN1_ReadSet, parts->next);
   for (const Anybuf& value : Chain(values.get())) {
@@ -31,7 +29,7 @@ std::string_view SignedPartRemark(const Anybuf& original, const PKCS10& info) {
     return "no, since the element of its attributes is missing and would be written";
   }
   const NodePtr written = Make("write the signed part", ASN1_PKCS10WriteData, &info);
-  return std::ranges::equal(View(*written), View(original)) ? "identical" : "different";
+  return Comparison(SameBytes(*written, View(original)));
 }
 
 }  // namespace

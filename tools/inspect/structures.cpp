@@ -1,11 +1,12 @@
 #include "structures.h"
 
+#include <algorithm>
 #include <system_error>
 
 #include "text.h"
 
 using velkord::Bytes, velkord::Chain, velkord::Check, velkord::Errc, velkord::Length, velkord::Make,
-    velkord::NodePtr, velkord::Out;
+    velkord::NodePtr, velkord::Out, velkord::View;
 
 namespace {
 
@@ -16,15 +17,24 @@ constexpr uint32_t kGeneralizedTimeTag = 24;
 constexpr uint32_t kBmpStringTag = 30;
 
 std::vector<uint8_t> StringContent(const Anybuf& node, const char* step) {
-  if (node.dataType != kBmpStringTag) return Content(node, step);
-  std::vector<uint8_t> text(node.dataLen);
-  uint32_t length = 0;
-  Check(ASN1_ReadBmpStringToBytes(&node, text.data(), &length), step);
-  text.resize(length);
+  std::vector<uint8_t> content = Content(node, step);
+  if (node.dataType != kBmpStringTag) return content;
+  // Up to three bytes of UTF-8 for each character of two bytes.
+  std::vector<uint8_t> text(content.size() / 2 * 3);
+  size_t size = 0;
+  for (size_t at = 0; at + 1 < content.size(); at += 2) {
+    const uint32_t code = uint32_t{content[at]} << 8 | content[at + 1];
+    size += static_cast<size_t>(uniToUTF8(text.data() + size, 3, code));
+  }
+  text.resize(size);
   return text;
 }
 
 }  // namespace
+
+bool SameBytes(const Anybuf& node, Bytes other) { return std::ranges::equal(View(node), other); }
+
+std::string_view Comparison(bool same) { return same ? "identical" : "different"; }
 
 std::vector<uint8_t> Content(const Anybuf& node, const char* step) {
   std::vector<uint8_t> content(node.dataLen);
@@ -46,12 +56,12 @@ NodePtr SplitPair(const Anybuf& sequence, const char* step) {
   return elements;
 }
 
-std::string ObjectId(const Anybuf& node, const char* step) {
+std::string IdText(const Anybuf& node, const char* step) {
   if (node.dataType != kObjectIdTag) throw std::system_error(Errc::kWrongTag, step);
   return ObjectIdText(Content(node, step));
 }
 
-// Read from the text itself: the library's own reader gives local time and ends in 2038.
+// Read from the text itself: the library's own reader returns local time and ends in 2038.
 std::string TimeText(const Anybuf& node, const char* step) {
   const bool isUtcTime = node.dataType == kUtcTimeTag;
   if (!isUtcTime && node.dataType != kGeneralizedTimeTag) {
@@ -73,7 +83,7 @@ std::string TimeText(const Anybuf& node, const char* step) {
 std::string AlgorithmText(const Anybuf& algorithm) {
   NodePtr id;
   Check(ASN1_GetAlgorithmIdentifier(&algorithm, Out(id), nullptr, nullptr), "open an algorithm");
-  return ObjectId(*id, "read an algorithm");
+  return IdText(*id, "read an algorithm");
 }
 
 std::string KeyAlgorithmText(const Anybuf& keyInfo) {
@@ -90,7 +100,7 @@ void PutName(std::ostream& out, const Anybuf& name) {
         Make("split a relative name", ASN1_ReadRelativeDistinguishedName, &relative);
     for (const Anybuf& attribute : Chain(attributes.get())) {
       const NodePtr type = SplitPair(attribute, "split an attribute of a name");
-      out << "    " << ObjectId(*type, "read the type of an attribute of a name") << ": "
+      out << "    " << IdText(*type, "read the type of an attribute of a name") << ": "
           << EscapedText(StringContent(*type->next, "read an attribute of a name")) << '\n';
     }
   }
@@ -108,7 +118,7 @@ std::vector<Extension> ReadExtensions(const Anybuf& list) {
     if (critical != nullptr) {
       Check(ASN1_ReadBoolean(critical.get(), &isCritical), "read an extension's critical flag");
     }
-    extensions.push_back({.id = ObjectId(*id, "read an extension's type"),
+    extensions.push_back({.id = IdText(*id, "read an extension's type"),
                           .isCritical = isCritical != 0,
                           .value = Content(*value, "read an extension's value")});
   }

@@ -10,6 +10,13 @@
 
 #include "velkord.hpp"
 
+inline constexpr uint32_t kIntegerTag = 2;  // Reduced.
+
+bool SameBytes(const Anybuf& node, velkord::Bytes other);
+
+// "identical" or "different".
+std::string_view Comparison(bool same);
+
 // The content of a TLV node: of a BIT STRING without its unused-bits octet, of an INTEGER without
 // the zero octet that only keeps it positive.
 std::vector<uint8_t> Content(const Anybuf& node, const char* step);
@@ -20,8 +27,8 @@ velkord::NodePtr Element(velkord::Bytes der, const char* step);
 // The chain of a SEQUENCE of at least two elements.
 velkord::NodePtr SplitPair(const Anybuf& sequence, const char* step);
 
-// As ObjectIdText has it.
-std::string ObjectId(const Anybuf& node, const char* step);
+// The text of an OBJECT IDENTIFIER node, as ObjectIdText writes it.
+std::string IdText(const Anybuf& node, const char* step);
 
 std::string TimeText(const Anybuf& node, const char* step);
 
