@@ -71,7 +71,7 @@ def draw(uses):
     return f"""<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 {width} {height}" \
 width="{width}" height="{height}" role="img" font-family="Helvetica, Arial, sans-serif" \
 font-size="13" fill="#1f2328">
-<title>The folders of the library, each above those that it uses</title>
+<title>The folders of the library, each above those whose headers it includes</title>
 <defs><marker id="arrow" markerWidth="9" markerHeight="9" refX="7" refY="4" orient="auto">
 <path d="M0,0 L8,4 L0,8 z" fill="#57606a"/></marker></defs>
 <rect width="{width}" height="{height}" fill="#ffffff"/>
@@ -88,7 +88,7 @@ def main():
     image = draw(read_uses())
     if sys.argv[1:] == ["--check"]:
         if target.read_text() != image:
-            sys.exit("docs/architecture.svg is not what docs/architecture.py draws now")
+            sys.exit("docs/architecture.svg is not up to date. Run python3 docs/architecture.py.")
     elif sys.argv[1:]:
         sys.exit(__doc__)
     else:

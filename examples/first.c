@@ -6,8 +6,10 @@
 int main(void) {
   Anybuf* country = NULL;
   Anybuf* name = NULL;
-  ASN1_WriteCharStringFromBytes((const uint8_t*)"CN", 2, &country);
-  int32_t code = ASN1_GetDerRelativeDistinguishedNameOne(country, 0, "2.5.4.6", 7, &name);
+  int32_t code = ASN1_WriteCharStringFromBytes((const uint8_t*)"CN", 2, &country);
+  if (code == VELKORD_OK) {
+    code = ASN1_GetDerRelativeDistinguishedNameOne(country, 0, "2.5.4.6", 7, &name);
+  }
   ASN1_FreeAnybuf(country);
   if (code != VELKORD_OK) return 1;
 

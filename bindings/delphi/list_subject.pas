@@ -254,7 +254,7 @@ begin
     'decode the certificate');
   try
     Check(ASN1_ReadSequence(Certificate^.tbsCertificate, Parts), 'split the signed part');
-    // Behind serial number, signature algorithm, issuer and validity; in front of them stands the
+    // After serial number, signature algorithm, issuer and validity; in front of them stands the
     // version, which version 1 leaves out.
     Subject := 4;
     if ElementAt(Parts, 0)^.dataType = VersionTag then

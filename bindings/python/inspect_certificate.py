@@ -51,7 +51,7 @@ def object_id(node):
 
 
 def escaped(text):
-    """Characters that end the line or move the cursor would let a certificate forge this page."""
+    """Characters that end the line or move the cursor would let a certificate forge what its reader sees."""
     return "".join(
         char if char.isprintable() and char != "\\" else f"\\u{ord(char):04x}"
         for char in text)
@@ -71,7 +71,7 @@ def attributes(name):
             yield f"{object_id(kind)} = {string(value)}"
 
 
-# Read from the text itself: the library's own reader gives local time and ends in 2038.
+# Read from the text itself: the library's own reader returns local time and ends in 2038.
 def time(node):
     text = content(node).decode("ascii", "replace")
     if node.dataType == UTC_TIME:

@@ -1,4 +1,4 @@
-"""The functions of Velkord under their own names, taking bytes and giving bytes.
+"""The functions of Velkord under their own names, taking and returning bytes.
 
 Arguments come in the order of include/Velkord.h. Two kinds are left out: a length that follows
 bytes, and what the function hands out, which comes back: None, one value, or a tuple of several.
@@ -7,7 +7,7 @@ bytes, and what the function hands out, which comes back: None, one value, or a 
 - A node or a record is a Handle, and None is the null pointer. A Handle releases what it holds, so
   no Free function is called. Its attributes are the fields; what they point to lives as long as it
   does, or until a setter replaces it. A number can be set, and a null pointer can be set to a
-  Handle, which then belongs to the record. bytes(node) gives a node's bytes, and a loop over a node
+  Handle, which then belongs to the record. bytes(node) returns a node's bytes, and a loop over a node
   walks through its chain. An empty chain is None.
 - The record of a key is a structure of velkord_api that the caller makes and the function fills.
 - Bytes that the function did not write come back as None.
@@ -53,7 +53,7 @@ velkord_api.declare(library)
 _c_library = ctypes.CDLL("msvcrt" if os.name == "nt" else None)
 _c_library.free.argtypes = [ctypes.c_void_p]
 
-# A function that takes one record and gives nothing releases it; those of nodes are all the same.
+# A function that takes one record and returns nothing releases it; those of nodes are all the same.
 _FREE_NAMES = {
     name for name, (result, arguments) in velkord_api.FUNCTIONS.items()
     if result is None and len(arguments) == 1

@@ -215,6 +215,7 @@ static void WriteAgain(TBSCertificate* tbs, const Anybuf* signedPart) {
   ASN1_FreeAnybuf(list);
 }
 
+// Takes over the record.
 static void ListSubject(TBSCertificate* tbs) {
   // [subject]
   X509Cert* view = X509CertCreate(NULL);

@@ -1,3 +1,4 @@
+// The certificate of an authority, which issue_certificate and issue_crl write.
 #include <openssl/rand.h>
 #include <time.h>
 

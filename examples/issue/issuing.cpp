@@ -16,7 +16,7 @@ constexpr uint8_t kOrganization[] = {0xCA, 0xBE, 0xC0, 0xFD, 0xBB, 0xFA, 0xB9, 0
 
 constexpr size_t kLongestCommonName = 64;
 constexpr size_t kKeyIdentifierSize = 20;
-constexpr uint8_t kOctetStringType = 4;
+constexpr uint8_t kBitStringType = 3;
 
 void CheckCommonName(std::string_view name) {
   size_t count = 0;
@@ -72,7 +72,7 @@ NodePtr Integer(uint32_t value) { return Make("write a number", ASN1_WriteIntege
 // neither a signature nor flags.
 NodePtr BitString(Bytes bits, uint32_t unusedBits) {
   const NodePtr content =
-      Make("hold the bits", ASN1_CreateAnybuf, bits.data(), Length(bits), kOctetStringType);
+      Make("hold the bits", ASN1_CreateAnybuf, bits.data(), Length(bits), kBitStringType);
   content->unusedBits = unusedBits;
   return Make("write a BIT STRING", ASN1_WriteBitString, content.get());
 }

@@ -24,7 +24,7 @@ void CheckCrypto(bool succeeded, const std::string& step);
 // A key of 2048 bits with the exponent 65537.
 KeyPtr NewRsaKey();
 
-// RSA keys sign with SHA-256 and PKCS #1 padding, SM2 keys with SM3 and the usual identity.
+// RSA keys sign with SHA-256 and PKCS#1 padding, SM2 keys with SM3 and the usual identity.
 std::vector<uint8_t> Signature(const KeyPtr& key, velkord::Bytes message);
 void Verify(const KeyPtr& key, velkord::Bytes message, velkord::Bytes signature);
 

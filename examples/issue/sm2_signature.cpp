@@ -53,7 +53,7 @@ std::vector<uint8_t> ThroughBareForm(const EccPubkey& point) {
   uint8_t der[kRoom];
   uint32_t length = 0;
   ASN1_SM2_PubkeyEncode(point.x, kNumberSize, point.y, kNumberSize, der, &length);
-  // The decoder gives half of the content to each coordinate, and needs half of the DER for it.
+  // The decoder takes half of the content for each coordinate, and needs half of the DER for it.
   std::vector<uint8_t> x(length / 2);
   std::vector<uint8_t> y(length / 2);
   uint32_t xLength = 0;
