@@ -41,8 +41,8 @@ int32_t FillOptionals(TbsCertList& record, DerElements& elements) {
 //   nextUpdate           Time OPTIONAL,
 //   revokedCertificates  SEQUENCE OF RevokedCertificate OPTIONAL,
 //   crlExtensions        [0] EXPLICIT Extensions OPTIONAL }
-// Unlike the standard's, a version is written only when it is 2, and as 2, both times in one form;
-// what is read may have any version, and further elements are skipped.
+// Unlike the standard's, the version is written only when it is 2, then as INTEGER 2, and both
+// times have one form; what is read may have any version, and further elements are skipped.
 int32_t Fill(TbsCertList& record, DerElements& elements) {
   DerElement element;
   if (elements.StartsWith(kInteger)) {

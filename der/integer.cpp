@@ -21,7 +21,7 @@ int32_t Asn1LowIntToChar(uint32_t value, uint8_t** outBytes, uint32_t** outLengt
   const IntegerElement integer(value);
   const Bytes octets = integer.Content();
   uint8_t* block = AllocateBytes(octets.size());
-  auto* length = AllocateZeroed<uint32_t>();
+  auto* length = Allocate<uint32_t>();
   if (block == nullptr || length == nullptr) {
     Release(block);
     Release(length);

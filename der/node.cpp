@@ -1,6 +1,5 @@
 #include "der/node.h"
 
-#include <algorithm>
 #include <bit>
 
 #include "platform/memory.h"
@@ -131,8 +130,7 @@ int32_t DerRetag(uint8_t tag, const DerElement& element, Anybuf** out) {
 }
 
 int32_t DerRewrite(uint8_t tag, const DerElement& element, Anybuf** out) {
-  // Where neither type has such an octet, and for an INTEGER that needs none, the content is
-  // unchanged.
+  // Unchanged content: neither type has an octet in front of it, or the INTEGER needs none.
   const Bytes raw = element.Content();
   const auto hasOctet = [](uint32_t type) { return type == kBitString || type == kInteger; };
   const bool isPlain = !hasOctet(tag) && !hasOctet(element.tag);

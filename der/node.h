@@ -72,7 +72,8 @@ int32_t DerBuildWith(const DerHeader& header, Anybuf** out, Write write) {
 // One element from one content, with the octet before it that `DerHeader::For` adds.
 int32_t DerBuild(uint8_t tag, Bytes content, Anybuf** out, uint32_t unusedBits = 0);
 
-// The same from a caller's node or bytes. -8 for a required argument that is null.
+// The same from a caller's node with its unused bits, or from bytes with those that the last one
+// implies. -8 for a required argument that is null.
 int32_t DerBuildFromNode(uint8_t tag, const Anybuf* source, Anybuf** out);
 int32_t DerBuildFromBytes(uint8_t tag, const uint8_t* bytes, uint32_t length, Anybuf** out);
 
@@ -96,7 +97,7 @@ int32_t DerRetag(uint8_t tag, const DerElement& element, Anybuf** out);
 // unused bits. 0, -1, or -2 for a BIT STRING without its octet.
 int32_t DerRewrite(uint8_t tag, const DerElement& element, Anybuf** out);
 
-// A finished SEQUENCE or SET, checked, back out with its length in shortest form.
+// A copy of a finished SEQUENCE or SET, its children checked and its length in shortest form.
 // 0, -1, -2 or -7.
 int32_t DerRewrap(uint8_t tag, Bytes in, Anybuf** out);
 int32_t DerRewrap(uint8_t tag, const DerElement& element, Anybuf** out);

@@ -16,7 +16,8 @@ constexpr bool ForEachObjectIdOctet(std::string_view text, Sink sink) {
   const auto firstArc = static_cast<uint32_t>(text[0] - '0');
   const auto isSeparator = [](char c) { return c == '.' || c == ' '; };
   size_t at = 1;
-  // A separator that ends the text opens no arc.
+  // A separator that ends the text opens no arc. A single character after the first arc is not
+  // looked at.
   for (bool second = true; at + 1 < text.size(); second = false) {
     if (!isSeparator(text[at++])) return false;
     uint32_t arc = 0;

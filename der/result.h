@@ -1,4 +1,4 @@
-// Returns the code of a step that fails. The codes themselves are in the public header.
+// The macro that passes the code of a failing step up. The codes are in the public header.
 #ifndef VELKORD_DER_RESULT_H_
 #define VELKORD_DER_RESULT_H_
 

@@ -24,8 +24,8 @@ class DerHeader {
     return {kBitString, bitsLength + 1, true, static_cast<uint8_t>(unusedBits)};
   }
   // With the octet that precedes the content of some types: in a BIT STRING it is the low byte of
-  // `unusedBits`, which no other type looks at; in an INTEGER it is zero, and is
-  // there only when the content begins with 0x80 or more.
+  // `unusedBits`, which no other type looks at; in an INTEGER it is zero, and is there only when
+  // the content begins with 0x80 or more.
   static DerHeader For(uint8_t tag, Bytes content, uint32_t unusedBits = 0) {
     if (tag == kBitString) return ForBitString(unusedBits, content.size());
     if (tag == kInteger && !content.empty() && content[0] >= 0x80) {

@@ -142,7 +142,7 @@ typedef struct Anybuf {
   uint8_t* data;        ///< The node's own block.
   uint32_t dataLen;     ///< Number of bytes at `data`.
   uint32_t unusedBits;  ///< Unused bits of a BIT STRING; no meaning for other types.
-  uint32_t memKind;     ///< 2 on a new node, that of its source on a copy; nothing tests it.
+  uint32_t memKind;     ///< 2, or that of its source on a copy in a chain; nothing tests it.
   uint32_t dataType;    ///< Reduced tag.
   struct Anybuf* next;  ///< Next node of the chain, null on the last.
   struct Anybuf* prev;  ///< Node before this one in a chain from a split; else null.
@@ -308,8 +308,8 @@ typedef struct CertWideEntry {
 } CertWideEntry;
 
 /// A caller's view of a decoded certificate: 23 words, each as wide as a pointer. The library reads
-/// `tbs` and fills `subjectEntries`; `X509CertFree` releases all named fields, whose blocks must
-/// come from `malloc`. The numbered words are the caller's.
+/// `tbs` and fills `subjectEntries`; `X509CertFree` releases what its pointers hold, whose blocks
+/// must come from `malloc`. The fields `wordN` are the caller's.
 typedef struct X509Cert {
   uintptr_t word1;            ///< The caller's.
   uintptr_t word2;            ///< The caller's.
@@ -399,7 +399,8 @@ VELKORD_API int32_t ASN1_WriteIa5StringFromDERBytes(const uint8_t* bytes, uint32
 VELKORD_API int32_t ASN1_WritePrintableStringFromDERBytes(const uint8_t* bytes, uint32_t length,
                                                           Anybuf** out);
 /// Reads the DER bytes of a BIT STRING into a node, unchanged; `unusedBits` is the octet after the
-/// header. The tag and the length are not tested; `VELKORD_SIZE_MISMATCH` only without that octet.
+/// header. The tag and the length are not tested; `VELKORD_SIZE_MISMATCH` only without that octet
+/// or for the indefinite length.
 VELKORD_API int32_t ASN1_WriteBitStringFromDERBytes(const uint8_t* bytes, uint32_t length,
                                                     Anybuf** out);
 
@@ -469,7 +470,8 @@ VELKORD_API int32_t ASN1_ReadIntegerArrayToBytes(const Anybuf* source, uint8_t* 
 /// `out` needs as many bytes as the text has characters. Arcs are 32-bit and wrap. Returns the
 /// number of octets written, which also goes to `outLength`, or 0 for a null argument and for a
 /// text that is refused; then `outLength` is not written and `out` may hold the octets of the arcs
-/// before the bad one. For a first arc and a point alone it returns 0 and sets `outLength` to 0.
+/// before the bad one. For a first arc and one more character, whatever it is, it returns 0 and
+/// sets `outLength` to 0.
 VELKORD_API int32_t ASN1_OBJECT_a2d(uint8_t* out, uint32_t* outLength, const char* text,
                                     int32_t textLength);
 
@@ -549,8 +551,8 @@ VELKORD_API int32_t ASN1_WriteUtcTime(const int32_t* time, Anybuf** out);
 /// Reads the time of an element of that form. UTCTime years 00 to 69 are 2000 to 2069, and fields
 /// out of range carry over: day 32 of January is 1 February. Of an hour that occurs twice the
 /// earlier one is read; an hour that the clocks skip is read as if they had not been changed.
-/// `VELKORD_SIZE_MISMATCH` only without a whole header; also `VELKORD_WRONG_TAG` for another
-/// `dataType`, `VELKORD_BAD_TIME` and `VELKORD_OUT_OF_MEMORY`.
+/// `VELKORD_SIZE_MISMATCH` only without a whole header or for the indefinite length; also
+/// `VELKORD_WRONG_TAG` for another `dataType`, `VELKORD_BAD_TIME` and `VELKORD_OUT_OF_MEMORY`.
 VELKORD_API int32_t ASN1_ReadGeneralizedTime(const Anybuf* source, int32_t* time);
 VELKORD_API int32_t ASN1_ReadUtcTime(const Anybuf* source, int32_t* time);
 // -------------------------------------------------------------------------------------------------
@@ -736,7 +738,7 @@ VELKORD_API int32_t ASN1_CertificateDecode(const uint8_t* bytes, uint32_t length
 /// Makes an empty record, and stores it in `out` too unless that is null. Returns the record, or
 /// null when memory runs out; `out` is then not written.
 VELKORD_API X509Cert* X509CertCreate(X509Cert** out);
-/// Releases a record and all that its named fields hold.
+/// Releases a record and all that its pointers hold.
 VELKORD_API void X509CertFree(X509Cert* record);
 /// Appends one entry to `subjectEntries` for the first attribute of each relative name in the
 /// subject of `tbs`. A UTF8String or PrintableString value comes as it stands, a BMPString as

@@ -55,7 +55,7 @@ int32_t ClearAndOpen(Key* key, const uint8_t* der, int32_t derLen, Scratch& scra
 //   version              Version,
 //   privateKeyAlgorithm  AlgorithmIdentifier,
 //   privateKey           OCTET STRING }  -- an RSAPrivateKey
-// The modulus of this or of a bare RSAPrivateKey; `elements` moves to what follows it there.
+// Opens the modulus in the RSAPrivateKey of this, or in a bare one; `elements` continues after it.
 int32_t OpenModulus(DerElements& elements, Bytes& modulus) {
   VELKORD_TRY(DerNextContent(elements, modulus, 1));
   if (modulus.size() != kAlgorithmSize) return VELKORD_OK;
@@ -70,7 +70,8 @@ int32_t OpenModulus(DerElements& elements, Bytes& modulus) {
 // RSAPublicKey ::= SEQUENCE {
 //   modulus         INTEGER,
 //   publicExponent  INTEGER }
-// Unlike the standard's, elements of any tag are read, and further ones are skipped; so below.
+// Unlike the standard's, elements of any tag are read, and further ones are skipped; the same holds
+// for RSAPrivateKey.
 int32_t ZantEncodePublicKey(const ZantPublicKey* key, uint8_t* der, uint32_t* derLen) {
   if (key == nullptr || derLen == nullptr) return VELKORD_FAILURE;
   const std::array numbers = {KeyFieldTrim(key->modulus), KeyFieldTrim(key->publicExponent)};

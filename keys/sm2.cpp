@@ -13,7 +13,6 @@ constexpr size_t kMaximumPoint = 256;
 
 void WriteElement(const DerHeader& header, std::initializer_list<Bytes> parts, uint8_t* der,
                   uint32_t* derLen) {
-  if (header.Total() > UINT32_MAX) return;
   const auto size = static_cast<uint32_t>(header.Total());
   const auto write = [&](DerWriter& writer) {
     writer.Put(header);
@@ -22,7 +21,8 @@ void WriteElement(const DerHeader& header, std::initializer_list<Bytes> parts, u
   if (WriteInPlace(parts, der, size, write) == VELKORD_OK) *derLen = size;
 }
 
-// Copies two parts of an input out. Writing the first may not overwrite the second.
+// Copies two parts of an input out. The second is copied aside first where writing the first would
+// overwrite it.
 void CopyOutBoth(Bytes first, uint8_t* out, uint32_t* outLen, Bytes second, uint8_t* secondOut,
                  uint32_t* secondOutLen) {
   const auto* length = static_cast<const uint8_t*>(static_cast<const void*>(outLen));

@@ -7,12 +7,11 @@
 
 namespace velkord::internal {
 
-// Makes the C library follow the zone that TZ names, if TZ is set: otherwise it may keep the zone
-// that it read first. Without TZ this does nothing, since the C library would ask the system every
-// time.
+// Makes the C library follow the zone that TZ names now: it may keep the one that it read first.
+// Without TZ this does nothing, since the C library would ask the system every time.
 void FollowZone();
 
-// False when the platform refuses a time, of which it must take 0 to 2147483647.
+// The fields at a time, which is 0 to 2147483647. False when the platform refuses it.
 bool LocalFields(int32_t seconds, std::tm& fields);
 
 }  // namespace velkord::internal

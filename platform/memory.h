@@ -17,7 +17,7 @@ inline uint8_t* AllocateBytes(size_t size) {
   return static_cast<uint8_t*>(std::malloc(size == 0 ? 1 : size));
 }
 
-// A record or node for the caller to fill.
+// A record, node or number for the caller to fill.
 template <typename Record>
 Record* Allocate() {
   return static_cast<Record*>(std::malloc(sizeof(Record)));

@@ -26,7 +26,8 @@ void EncodeLines(const uint8_t* in, size_t lines, char* out) {
   }
 }
 
-// The three bytes of a group of four indexes.
+// Puts the bytes of a group of four indexes, three or as many as padding leaves, and returns the
+// place after them.
 uint8_t* PutGroup(uint8_t* place, const uint8_t* indexes, size_t bytes = 3) {
   const uint32_t group = uint32_t{indexes[0]} << 18 | uint32_t{indexes[1]} << 12 |
                          uint32_t{indexes[2]} << 6 | indexes[3];

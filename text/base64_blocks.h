@@ -71,8 +71,8 @@ inline constexpr LaneTable kCharacterOffsets = [] {
   return table;
 }();
 
-// What is added to a character to make it its index, by its high four bits; '/' has the place of
-// one less.
+// What is added to a character to make it its index, by its high nibble; '/' takes the place one
+// lower than its own.
 inline constexpr LaneTable kIndexOffsets = [] {
   LaneTable table{};
   const auto set = [&](size_t place, uint8_t character) {

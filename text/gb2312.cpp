@@ -1,8 +1,6 @@
 // GB2312 codes, code points and UTF-8, of one character and of texts.
 #include <algorithm>
-#include <array>
 #include <bit>
-#include <cstddef>
 #include <cstdint>
 #include <cstring>
 

@@ -59,9 +59,9 @@ constexpr uint32_t SearchGb2312(uint32_t gb) {
   return code;
 }
 
-// The result of the search for every code of two bytes. Codes between two neighbours of the table
-// all have the same, so the cells of a row are preceded by one for the codes below it, down to the
-// cells of the row before; the rows without characters at both ends serve all codes beyond.
+// The result of the search for every code of two bytes. All codes between two assigned neighbours
+// have one result, so each row has a cell in front for the codes between it and the row before. An
+// empty row at each end serves all codes beyond.
 class Gb2312CodePoints {
  public:
   constexpr Gb2312CodePoints() {

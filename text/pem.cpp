@@ -5,9 +5,9 @@
 #include "Velkord.h"
 #include "text/base64.h"
 
-namespace {
-
 using namespace velkord::internal;
+
+namespace {
 
 constexpr uint32_t kLengthLimit = 1U << 30;
 constexpr size_t kMarkerDashes = 5;

@@ -16,7 +16,7 @@ constexpr uint8_t kNullElement[] = {kNull, 0x00};
 
 struct AlgorithmView {
   Bytes oid;
-  uint8_t parameterType = kNull;  // kNull, which has no content, kSequence or kObjectId.
+  uint8_t parameterType = kNull;  // kNull, for no parameter too; else kSequence or kObjectId.
   Bytes parameter;
 };
 

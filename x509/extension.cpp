@@ -10,15 +10,15 @@ int32_t OpenExtension(Bytes in, ExtensionView& extension) {
   return DerElements::Read(in, kSequenceType, [&](DerElements& elements) -> int32_t {
     VELKORD_TRY(DerNextContent(elements, extension.oid));
     extension.critical = Bytes();
-    DerElement value;
-    VELKORD_TRY(elements.Next(value));
+    DerElement second;
+    VELKORD_TRY(elements.Next(second));
     DerElement third;
-    if (elements.Next(third) == VELKORD_OK && elements.AtEnd()) {
-      if (value.Content().empty()) return VELKORD_SIZE_MISMATCH;
-      extension.critical = value.Content().first(1);
-      value = third;
+    if (elements.Next(third) != VELKORD_OK || !elements.AtEnd()) {
+      return DerOpenContent(second, extension.value);
     }
-    return DerOpenContent(value, extension.value);
+    if (second.Content().empty()) return VELKORD_SIZE_MISMATCH;
+    extension.critical = second.Content().first(1);
+    return DerOpenContent(third, extension.value);
   });
 }
 

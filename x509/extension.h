@@ -19,7 +19,8 @@ struct ExtensionView {
 
 // Opens an extension. The tags do not count: of exactly three elements the second is `critical`,
 // and of any other number the second is the value.
-// 0; -1, -2 or -7 from the SEQUENCE; -1 for a missing element; -2 for a BOOLEAN without content.
+// 0; -1, -2 or -7 from the SEQUENCE; -1 for a missing element; -2 for a second of three without
+// content, and for a BIT STRING without its octet.
 int32_t OpenExtension(Bytes in, ExtensionView& extension);
 
 }  // namespace velkord::internal

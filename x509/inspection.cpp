@@ -14,7 +14,7 @@ using namespace velkord::internal;
 
 namespace {
 
-// The TLV of the identifier that marks an extension's item with a value.
+// The TLV of the identifier of the item whose value is looked up.
 constexpr std::array<uint8_t, 10> kValueItemId = [] {
   std::array<uint8_t, 10> tlv{kObjectId, 8};
   size_t at = 2;

@@ -19,7 +19,8 @@ struct AttributeView {
 
 // Opens an attribute. Unlike the standard's, its type may have any tag, and elements after the
 // second are skipped.
-// 0; -1, -2 or -7 from the SEQUENCE; -1 for a missing element.
+// 0; -1, -2 or -7 from the SEQUENCE; -1 for a missing element; -2 for a type that is a BIT STRING
+// without its octet.
 int32_t OpenAttribute(Bytes in, AttributeView& attribute);
 
 // Opens the first attribute of a relative name. Codes as above, -1 for an empty SET.

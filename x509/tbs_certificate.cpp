@@ -97,7 +97,8 @@ int32_t FillOptionals(const Optionals& optionals, TBSCertificate& record) {
 // form, those of other numbers are skipped, and the extensions come back under SEQUENCE, not [3].
 int32_t Fill(TBSCertificate& record, DerElements& elements) {
   DerElement element;
-  // The first element is the version whatever its tag, and keeps it.
+  // The first element is the version whatever its tag, and comes back with the bits of [n] EXPLICIT
+  // set in that.
   VELKORD_TRY(elements.Next(element));
   VELKORD_TRY(DerRewrite(ExplicitTag(element.tag), element, &record.versionNode));
   VELKORD_TRY(elements.Next(element));
