@@ -94,6 +94,6 @@ Values Call(const Function& function, ByteInputs& in) {
 int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   // A time and its text are one in a zone without daylight saving.
   static const int kZone = (GTEST_FLAG_SET(throw_on_failure, true), setenv("TZ", "UTC0", 1));
-  TestInput({data, size});
+  TestInput({{data, data + size}});
   return kZone;
 }

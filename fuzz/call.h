@@ -10,8 +10,8 @@
 using ByteView = std::span<const uint8_t>;
 using Values = std::vector<ByteVector>;
 
-// What every target defines: it is given each input.
-void TestInput(ByteView in);
+// What every target defines: it is given each input, as the one value.
+void TestInput(const Values& in);
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size);
 
@@ -21,12 +21,12 @@ inline ByteVector Copy(ByteView in) { return {in.begin(), in.end()}; }
 ByteVector Repeat(ByteView in, size_t size);
 
 // Up to three values as the arguments of each call in turn; the last one also stands for all that
-// follow. A null value is a null pointer. The values must outlive the calls.
+// follow. A value of no bytes is a null pointer, and so is a node that a call may release or
+// extend. The values must outlive the calls.
 class ByteInputs : public Inputs {
  public:
   static constexpr uint32_t kOwnType = UINT32_MAX;
 
-  ByteInputs(ByteView value) { values_.fill(value); }
   ByteInputs(const Values& values) {
     for (size_t at = 0; at < values_.size() && !values.empty(); ++at) {
       values_[at] = values[std::min(at, values.size() - 1)];

@@ -17,11 +17,11 @@ int main(int argc, char** argv) {
   const auto number = [=](int at) { return std::strtoul(argv[at], nullptr, 10); };
   size_t count = 0;
   for (size_t length = 0; length <= number(1); ++length) {
-    const auto bytes = std::make_unique<uint8_t[]>(length);
+    ByteVector bytes(length);
     for (size_t input = 0; input < size_t{1} << 8 * length; ++input) {
       if (argc == 4 && (input & 0xFF) % number(3) != number(2)) continue;
       for (size_t at = 0; at < length; ++at) bytes[at] = static_cast<uint8_t>(input >> 8 * at);
-      LLVMFuzzerTestOneInput(bytes.get(), length);
+      TestInput({bytes});
       ++count;
     }
   }

@@ -3,11 +3,11 @@
 
 namespace {
 
-// What is encoded is decoded and encoded to the same, of a key that the input holds and of one that
-// the input is.
+// The DER of a key decodes to a key that is encoded and decoded to itself: for a key in the input,
+// and for the input as a key.
 template <auto kDecode, auto kEncode>
-void Rsa(ByteView in, size_t keySize) {
-  for (const Values& key : {Call<kDecode>(in), Values{Repeat(in, keySize)}}) {
+void Rsa(const Values& in, size_t keySize) {
+  for (const Values& key : {Call<kDecode>(in), Values{Repeat(in[0], keySize)}}) {
     Rebuild<kDecode, kEncode>(Call<kEncode>(key));
   }
 }
@@ -18,13 +18,13 @@ bool ReadsAsWritten(const ByteVector& number) {
 }
 
 // What is encoded is decoded to the same, both what the input holds and the input cut into numbers.
-// Only much is refused.
+// Only long numbers are refused.
 template <auto kDecode, auto kEncode>
-void Sm2(ByteView in, const Values& numbers) {
+void Sm2(const Values& in, const Values& numbers) {
   for (const Values& values : {Call<kDecode>(in), numbers}) {
     if (values.empty()) continue;
     const Values der = Call<kEncode>(values);
-    EXPECT_TRUE(!der.empty() || in.size() > 200);
+    EXPECT_TRUE(!der.empty() || in[0].size() > 200);
     if (der.empty() || !std::all_of(values.begin(), values.end(), ReadsAsWritten)) continue;
     EXPECT_EQ(Call<kDecode>(der), values);
   }
@@ -34,13 +34,13 @@ Values Cut(ByteView in, size_t size) { return {Copy(in.first(size)), Copy(in.sub
 
 }  // namespace
 
-void TestInput(ByteView in) {
+void TestInput(const Values& in) {
   Rsa<ZantDecodePublicKey, ZantEncodePublicKey>(in, sizeof(ZantPublicKey));
   Rsa<ZantDecodePrivateKey, ZantEncodePrivateKey>(in, sizeof(ZantPrivateKey));
-  Call<ASN1_Der2EccPrikey>(in);
-  Rebuild<ASN1_Der2EccPubkey, ASN1_EccPubkey2Der>({Copy(in)});
-  const size_t half = in.size() / 2;
-  Sm2<ASN1_SM2_SM2SignatureDecode, ASN1_SM2_SM2SignatureEncode>(in, Cut(in, in.size() / 3));
-  Sm2<ASN1_SM2_PubkeyDecode, ASN1_SM2_PubkeyEncode>(in, Cut(in.first(2 * half), half));
-  Sm2<ASN1_SM2_PrikeyDecode, ASN1_SM2_PrikeyEncode>(in, {Copy(in)});
+  Rebuild<ASN1_Der2EccPubkey, ASN1_EccPubkey2Der>(in);
+  const ByteView bytes = in[0];
+  const size_t half = bytes.size() / 2;
+  Sm2<ASN1_SM2_SM2SignatureDecode, ASN1_SM2_SM2SignatureEncode>(in, Cut(bytes, bytes.size() / 3));
+  Sm2<ASN1_SM2_PubkeyDecode, ASN1_SM2_PubkeyEncode>(in, Cut(bytes.first(2 * half), half));
+  Sm2<ASN1_SM2_PrikeyDecode, ASN1_SM2_PrikeyEncode>(in, in);
 }

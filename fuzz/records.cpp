@@ -54,6 +54,7 @@ void Set(const RecordType& type, ByteInputs& in) {
     const int32_t code = Invocation(*setter, in, record).Run();
     EXPECT_EQ(Invocation(*setter, in, record).Run(), code);
   }
+  Invocation(*type.write, in, record).Run();
   type.release(record);
 }
 
@@ -79,9 +80,9 @@ void Inspect(const ByteVector& in) {
 
 }  // namespace
 
-void TestInput(ByteView bytes) {
-  Inspect(Copy(bytes));
-  ByteInputs in(bytes);
+void TestInput(const Values& values) {
+  Inspect(values[0]);
+  ByteInputs in(values);
   for (const Function& function : Functions()) {
     if (function.name.ends_with("Decode") && function.parameters.back() == "out") {
       const Values once = Call(function, in);

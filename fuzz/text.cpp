@@ -40,7 +40,7 @@ void Gb2312(ByteView in) {
   if (isAssigned) ComesBack<zhsToUtf8s, utf8sToZhs>({Copy(in.first(in.size() / 2 * 2))});
 }
 
-// An identifier in a name has the octets that its text alone gives.
+// An identifier in a name has the octets that are made of its text alone.
 void ObjectId(const ByteVector& text) {
   const Values oid = Call<ASN1_OBJECT_a2d>(Values{text});
   const Values name =
@@ -51,13 +51,13 @@ void ObjectId(const ByteVector& text) {
 
 }  // namespace
 
-void TestInput(ByteView in) {
-  ComesBack<base64_encode, base64_decode>({Copy(in)});
-  if (!in.empty()) {
+void TestInput(const Values& in) {
+  ComesBack<base64_encode, base64_decode>(in);
+  if (!in[0].empty()) {
     ComesBack<DER2PEM_data_format, PEM2DER_data_format>(
-        {Copy(in), FromHex("\"-----BEGIN-----\""), FromHex("\"-----END-----\"")});
+        {in[0], FromHex("\"-----BEGIN-----\""), FromHex("\"-----END-----\"")});
   }
-  CodePoint(in);
-  Gb2312(in);
-  ObjectId(Copy(Text(in)));
+  CodePoint(in[0]);
+  Gb2312(in[0]);
+  ObjectId(Copy(Text(in[0])));
 }

@@ -11,18 +11,18 @@ ByteVector Numbered(const std::string& start, size_t count) {
 }
 
 // Calls a function on an input and says how many bytes it put at `out`.
-using Call = std::function<void(uint8_t* in, uint32_t size, uint8_t* out, uint32_t* given)>;
+using Call = std::function<void(uint8_t* in, uint32_t size, uint8_t* out, uint32_t* written)>;
 
-// The call must give the same wherever `out`, which has `room` bytes, lies over the input.
+// The call must write the same wherever `out`, which has `room` bytes, lies over the input.
 void ExpectSameInPlace(const ByteVector& input, size_t room, size_t step, const Call& call) {
   std::string apart;
   for (size_t at = 0; at <= room + input.size(); at += step) {
     ByteVector both(2 * room + input.size());
     std::copy(input.begin(), input.end(), both.data() + room);
-    uint32_t given = 0;
-    call(&both[room], Size(input), &both[at], &given);
-    if (at == 0) apart = ToHex(both.data(), given);
-    ASSERT_EQ(ToHex(&both[at], given), apart) << at;
+    uint32_t written = 0;
+    call(&both[room], Size(input), &both[at], &written);
+    if (at == 0) apart = ToHex(both.data(), written);
+    ASSERT_EQ(ToHex(&both[at], written), apart) << at;
   }
   EXPECT_NE(apart, "");
 }
@@ -37,9 +37,9 @@ void EncodeInPlace(int32_t (*encode)(const Key*, uint8_t*, uint32_t*), size_t ro
 // `decode` has a key as its last argument.
 template <typename Key, typename Decode>
 void DecodeInPlace(const ByteVector& der, Decode decode) {
-  ExpectSameInPlace(der, sizeof(Key), 4, [=](auto* in, auto size, auto* out, auto* given) {
+  ExpectSameInPlace(der, sizeof(Key), 4, [=](auto* in, auto size, auto* out, auto* written) {
     decode(in, size, reinterpret_cast<Key*>(out));
-    *given = sizeof(Key);
+    *written = sizeof(Key);
   });
 }
 
@@ -59,12 +59,12 @@ TEST(InPlace, KeysAreAsApart) {
 
 TEST(InPlace, ValuesAreAsApart) {
   const ByteVector number = FromHex("02 05 00 81 82 83 84");
-  ExpectSameInPlace(number, 8, 1, [](auto* in, auto size, auto* out, auto* given) {
+  ExpectSameInPlace(number, 8, 1, [](auto* in, auto size, auto* out, auto* written) {
     const Anybuf node = {in, size, 0, 2, 2, nullptr, nullptr};
-    ASN1_ReadOctetStringToBytes(&node, out, given);
+    ASN1_ReadOctetStringToBytes(&node, out, written);
   });
-  ExpectSameInPlace(number, 8, 1, [](auto* in, auto size, auto* out, auto* given) {
-    ASN1_SM2_PrikeyDecode(out, given, in, size);
+  ExpectSameInPlace(number, 8, 1, [](auto* in, auto size, auto* out, auto* written) {
+    ASN1_SM2_PrikeyDecode(out, written, in, size);
   });
   ExpectSameInPlace(Numbered("", 32), 40, 1, ASN1_SM2_PrikeyEncode);
 }
@@ -72,24 +72,24 @@ TEST(InPlace, ValuesAreAsApart) {
 // Two numbers from one buffer to one.
 TEST(InPlace, PairsAreAsApart) {
   for (auto* encode : {ASN1_SM2_SM2SignatureEncode, ASN1_SM2_PubkeyEncode}) {
-    ExpectSameInPlace(Numbered("", 40), 60, 1, [=](auto* in, auto, auto* out, auto* given) {
-      encode(in + 20, 16, in, 17, out, given);
+    ExpectSameInPlace(Numbered("", 40), 60, 1, [=](auto* in, auto, auto* out, auto* written) {
+      encode(in + 20, 16, in, 17, out, written);
     });
   }
   for (const auto& [decode, der] :
        {std::pair(&ASN1_SM2_SM2SignatureDecode, "30 0C 02 04 81 82 83 84 02 04 11 22 33 44"),
         std::pair(&ASN1_SM2_PubkeyDecode, "03 0A 00 04 81 82 83 84 11 22 33 44")}) {
     // The length of the first number too may lie over the second one.
-    ExpectSameInPlace(FromHex(der), 12, 4,
-                      [decode = decode](auto* in, auto size, auto* out, auto* given) {
-                        decode(out + 4, reinterpret_cast<uint32_t*>(out), out + 8, given, in, size);
-                        *given += 8;
-                      });
+    ExpectSameInPlace(
+        FromHex(der), 12, 4, [decode = decode](auto* in, auto size, auto* out, auto* written) {
+          decode(out + 4, reinterpret_cast<uint32_t*>(out), out + 8, written, in, size);
+          *written += 8;
+        });
     ExpectSameInPlace(FromHex(der), 8, 1,
-                      [decode = decode](auto* in, auto size, auto* out, auto* given) {
+                      [decode = decode](auto* in, auto size, auto* out, auto* written) {
                         uint32_t firstSize = 0;
-                        decode(out + 4, &firstSize, out, given, in, size);
-                        *given += firstSize;
+                        decode(out + 4, &firstSize, out, written, in, size);
+                        *written += firstSize;
                       });
   }
 }

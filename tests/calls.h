@@ -19,8 +19,8 @@ using InspectionPtr = std::unique_ptr<X509Cert, FreeWith<X509CertFree>>;
 InspectionPtr Inspect(NodePtr subject, NodePtr extensions);
 std::string SubjectEntries(const X509Cert& record);
 
-// The results of a call, after its code when that is above 0 or goes with results, or the code
-// alone.
+// The results of a call, after its code when that is not 0. Where nothing was written, the code, or
+// `kept` for 0 from a function with out arguments.
 std::string Call(const std::string& name, const Arguments& arguments);
 
 // On the record that the function works on.

@@ -134,7 +134,7 @@ def check_programs():
             same("Subject in Pascal", run(list_subject, pem).splitlines(),
                  [line[2:] for line in wanted[wanted.index("subject:") + 1:-2]])
 
-    # What openssl shows otherwise, a value that would forge a line among it; and half of the file.
+    # A value that openssl shows in another way and that could forge a line, and a file that is cut off.
     whole, cut = WORK / "whole.der", WORK / "cut.der"
     whole.write_bytes(issue("0x2000", "a\x1b[2K\\\\b\u202e", *extensions))
     cut.write_bytes(whole.read_bytes()[:200])

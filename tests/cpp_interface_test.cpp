@@ -85,23 +85,20 @@ TEST(Interface, ShowsTheBytesOfNodesRecordsAndTexts) {
   EXPECT_EQ(Shown(View("\xC4z")), "C4 7A");
 }
 
-TEST(Interface, ShowsChainsAsRanges) {
-  static_assert(std::forward_iterator<Chain<CertEntry>::Iterator>);
-  const Node three = Nodes("02 01 05 | 05 00 | 04 00");
-  auto at = Chain(three.get()).begin();
-  EXPECT_EQ(&*at++, three.get());
-  EXPECT_EQ(at->dataType, 5U);
-  EXPECT_EQ(std::distance(at, {}), 2);
-}
-
 // `Describe` looks at the links in both directions.
-TEST(Interface, BuildsChainsOfNodesAndChains) {
+TEST(Interface, BuildsChainsAndShowsThemAsRanges) {
+  static_assert(std::forward_iterator<Chain<CertEntry>::Iterator>);
   ChainBuilder builder(Number(1), Node());
   builder.Append(Nodes("05 00 | 04 00"));
   builder.Append(nullptr);
   builder.Append(Number(2));
-  EXPECT_EQ(Describe(builder.Take().get()), "02 01 01 | 05 00 | 04 00 | 02 01 02");
+  const Node chain = builder.Take();
   EXPECT_EQ(builder.Head(), nullptr);
+  EXPECT_EQ(Describe(chain.get()), "02 01 01 | 05 00 | 04 00 | 02 01 02");
+  auto at = Chain(chain.get()).begin();
+  EXPECT_EQ(&*at++, chain.get());
+  EXPECT_EQ(at->dataType, 5U);
+  EXPECT_EQ(std::distance(at, {}), 3);
   builder.Append(Number(3));
   EXPECT_EQ(Describe(builder.Head()), "02 01 03");
 }

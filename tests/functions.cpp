@@ -6,8 +6,6 @@
 
 namespace {
 
-constexpr int32_t kNull = VELKORD_NULL_ARGUMENT;
-
 // The first whose prefix fits counts.
 constexpr Rule kRules[] = {
     {"ASN1_SM2_", 0, Writes::kAllOrNone},
@@ -17,11 +15,12 @@ constexpr Rule kRules[] = {
     {"ZantEncode", VELKORD_FAILURE, Writes::kAllOrNone, "der"},
     {"ZantDecode", VELKORD_FAILURE, Writes::kAll, "", true},
     {"X509CertGetOIDValue", VELKORD_FAILURE, Writes::kAllOrNone},
-    {"ASN1_ReadImplicit", kNull, Writes::kAll, "", true},
-    {"ASN1_GetExtension", kNull, Writes::kSome},
-    {"ASN1_GetAlgorithmIdentifier", kNull, Writes::kAll, "outOid outSequence outParameterOid"},
-    {"ASN1_", kNull},
-    {"Asn1", kNull},
+    {"ASN1_ReadImplicit", VELKORD_NULL_ARGUMENT, Writes::kAll, "", true},
+    {"ASN1_GetExtension", VELKORD_NULL_ARGUMENT, Writes::kSome},
+    {"ASN1_GetAlgorithmIdentifier", VELKORD_NULL_ARGUMENT, Writes::kAll,
+     "outOid outSequence outParameterOid"},
+    {"ASN1_", VELKORD_NULL_ARGUMENT},
+    {"Asn1", VELKORD_NULL_ARGUMENT},
     {"uniToUTF8", Rule::kTakesNoNull, Writes::kAll, "out"},
     {"", Rule::kTakesNoNull, Writes::kAllOrNone},
 };
@@ -54,7 +53,7 @@ void Classify(Function& entry, Result (*function)(First, Rest...)) {
 
 struct Lists {
   Lists() {
-    functions.reserve(1000);
+    functions.reserve(1000);  // Records point to their functions, which must not move.
 #define RECORD(record)                \
   types[#record] = &TypeOf<record>(); \
   types[#record]->size = sizeof(record);

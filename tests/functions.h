@@ -21,7 +21,7 @@ struct Rule {
 
   const char* prefix = "";       // Of the functions' names.
   int32_t refusal = 0;           // The code where a null pointer stands for an out argument.
-  Writes writes = Writes::kAll;  //
+  Writes writes = Writes::kAll;  // Of its out arguments.
   const char* mayBeNull = "";    // The out arguments that are not required.
   bool writesBeforeFailing = false;
 };
@@ -53,8 +53,9 @@ struct Function {
   std::vector<std::string> parameters;
   AnyFunction address;
   const Rule* rule;
-  RecordType* subject = nullptr;            // The record that it works on.
-  std::function<int32_t(Invocation&)> run;  // Empty for one that returns a pointer.
+  RecordType* subject = nullptr;  // The record that it works on.
+  std::function<int32_t(Invocation&)>
+      run;  // Empty for one that returns a pointer or releases a record.
 };
 
 // Null for an unknown name.
@@ -64,7 +65,7 @@ const RecordType* FindRecordType(const std::string& name);
 const std::vector<Function>& Functions();
 
 // How the tests call a function: plainly, unless a program puts another way in place that makes the
-// same call several times, as the one that lets requests for memory fail does. Gives the code;
+// same call several times, as the one that lets requests for memory fail does. Returns the code;
 // after a failure `isAsBefore` expects that nothing has changed.
 using LibraryCall = std::function<int32_t()>;
 using Check = std::function<void()>;

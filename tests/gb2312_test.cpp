@@ -14,7 +14,7 @@ uint32_t Sum(uint32_t (*function)(uint32_t), uint32_t end) {
 }
 
 // Both sums were computed apart from this code, from the published mapping as Python's codec gb2312
-// has it. A GB code without a row has the code point of the row at which a search by halves ends, a
+// has it. A GB code without a row has the code point of the row at which a binary search ends, a
 // code point without one the code 0.
 TEST(Gb2312, HasTheRowsOfThePublishedMappingAndNoOther) {
   EXPECT_EQ(Sum(ctouni, 0x10000), 0xEFFB95C2U);

@@ -33,7 +33,7 @@ ByteVector FromHex(const std::string& hex) {
       bytes.insert(bytes.end(), count, static_cast<uint8_t>(std::stoul(octet, nullptr, 16)));
     }
   }
-  // No spare room behind them, where a read past the end would go unseen.
+  // No spare room after them, where a read past the end would go unseen.
   bytes.shrink_to_fit();
   return bytes;
 }

@@ -25,8 +25,8 @@ struct FreeWith {
 using NodePtr = std::unique_ptr<Anybuf, FreeWith<ASN1_FreeAnybuf>>;
 
 // Hexadecimal octets with blanks between them, "05 00", to bytes and back. `FF*200` is 200 octets,
-// `"CN"` the octets of a text without blanks, and `@name:4:20` 20 bytes of a sample file from the
-// fourth on, or the whole file without the numbers.
+// `"CN"` the octets of a text without blanks, and `@name:4:20` 20 bytes of a sample file from
+// offset 4 on, or the whole file without the numbers.
 ByteVector FromHex(const std::string& hex);
 std::string ToHex(const uint8_t* bytes, size_t size);
 
@@ -64,11 +64,11 @@ NodePtr Make(int32_t (*function)(Parameters...), In... in) {
   return function(in..., &node) == 0 ? NodePtr(node) : nullptr;
 }
 
-// A caller's buffer, larger than any case fills it.
+// A caller's buffer, filled with a byte that shows what was not written.
 struct Buffer {
   static constexpr uint8_t kUntouched = 0xEE;
   static constexpr uint32_t kNoSize = 0xEEEE;
-  explicit Buffer(size_t room = 1500) : bytes(room, kUntouched) {}
+  explicit Buffer(size_t room) : bytes(room, kUntouched) {}
 
   // No null pointer, even without any room.
   uint8_t* Data() {

@@ -34,7 +34,7 @@ class Inputs {
   virtual Block Text(bool /*isTerminated*/) { return {}; }
   virtual size_t Room(const Function&) { return 0; }  // Of an out buffer.
   virtual void ExpectUnchanged() {}
-  virtual void BeforeObject(size_t) {}  // Of that size is about to be made.
+  virtual void BeforeObject(size_t) {}  // An object of that size is about to be made.
 };
 
 // Whether a record owns nodes. The records of keys are flat.
@@ -62,7 +62,7 @@ class Invocation {
   Invocation& operator=(const Invocation&) = delete;
   ~Invocation();
 
-  // Gives the code of the function, 0 for one without.
+  // Returns the code of the function, 0 for one without.
   int32_t Run() { return function_.run(*this); }
 
   // The parameters of the out arguments, those of sizes among them.

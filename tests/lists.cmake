@@ -1,8 +1,8 @@
 # The list of the library's functions and records that tests and fuzzers are built with, from the
 # header.
+set(lists ${PROJECT_BINARY_DIR}/lists)
 include_guard(GLOBAL)
 find_package(Python3 REQUIRED COMPONENTS Interpreter)
-set(lists ${PROJECT_BINARY_DIR}/lists)
 file(MAKE_DIRECTORY ${lists})
 add_custom_command(
   OUTPUT ${lists}/functions.inc

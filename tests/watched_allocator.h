@@ -1,4 +1,5 @@
-// The C allocator as the objects of a program see it that is linked with --wrap for its functions.
+// The C allocator as a program's objects see it when it is linked with --wrap for malloc, calloc
+// and free.
 #ifndef VELKORD_TESTS_WATCHED_ALLOCATOR_H_
 #define VELKORD_TESTS_WATCHED_ALLOCATOR_H_
 
@@ -21,7 +22,8 @@ extern AllocatorWatch watch;
 // Runs `work` watched, with nothing noted before.
 template <typename Work>
 auto Watched(size_t failing, Work work) {
-  watch = {true, failing};
+  watch = {false, failing};
+  watch.on = true;
   const auto result = work();
   watch.on = false;
   return result;
