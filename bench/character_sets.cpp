@@ -101,8 +101,8 @@ void AddText(const std::string& name, const Text& text) {
   const PageBuffer out(2 * text.utf8.size() + 16);
   const Conversion toUtf8{"gb_to_utf8_" + name, "EUC-CN", "UTF-8", text.characters, gb, utf8, out};
   const Conversion toGb{"utf8_to_gb_" + name, "UTF-8", "EUC-CN", text.characters, utf8, gb, out};
-  // It takes ASCII in pairs too, so that with ASCII it does the work of the same size, and its
-  // result is another.
+  // zhsToUtf8s reads ASCII in pairs too: it does work of the same size then, but its result is
+  // another text.
   Add(toUtf8.name, "velkord", text.characters, [=] {
     uint32_t size;
     zhsToUtf8s(gb.Data(), static_cast<int32_t>(gb.Size()), out.Data(), &size);

@@ -29,7 +29,7 @@ install(FILES
   ${PROJECT_BINARY_DIR}/VelkordConfigVersion.cmake
   DESTINATION ${package} COMPONENT development)
 
-# Its own folder tells where the rest is, so that the whole may be moved.
+# velkord.pc finds the rest from its own folder, so that an installation may be moved.
 file(RELATIVE_PATH prefix_from_pc
   /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
 string(REGEX REPLACE "/$" "" prefix_from_pc "${prefix_from_pc}")
