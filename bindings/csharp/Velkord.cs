@@ -880,7 +880,7 @@ public static class Velkord
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern IntPtr X509CertCreate(ref IntPtr @out);
 
-    // Releases a record and all that its named fields hold.
+    // Releases a record and all that its pointers hold.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern void X509CertFree(IntPtr record);
 

@@ -819,7 +819,7 @@ function ASN1_CertificateDecode(ABytes: PByte; ALength: Cardinal; var AOut: PCer
 function X509CertCreate(var AOut: PX509Cert): PX509Cert;
   cdecl; external VelkordLibrary name 'X509CertCreate';
 
-// Releases a record and all that its named fields hold.
+// Releases a record and all that its pointers hold.
 procedure X509CertFree(ARecord: PX509Cert); cdecl; external VelkordLibrary name 'X509CertFree';
 
 // Appends one entry to `subjectEntries` for the first attribute of each relative name in the

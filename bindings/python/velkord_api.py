@@ -578,7 +578,7 @@ FUNCTIONS = {
     # ==== Certificate inspection. Of the DER that is looked into, malformed parts are skipped.
     # Makes an empty record, and stores it in `out` too unless that is null.
     "X509CertCreate": _of(P(X509Cert), out=P(P(X509Cert))),
-    # Releases a record and all that its named fields hold.
+    # Releases a record and all that its pointers hold.
     "X509CertFree": _of(None, record=P(X509Cert)),
     # Appends one entry to `subjectEntries` for the first attribute of each relative name in the
     # subject of `tbs`.
