@@ -11,9 +11,6 @@ namespace {
 class TextInputs : public Inputs {
  public:
   explicit TextInputs(const Arguments& in) : in_(in) {}
-  ~TextInputs() override {
-    if (given_ != nullptr && !kept_.empty()) given_->next = nullptr;
-  }
 
   int64_t Number() override { return std::stoll(Next(), nullptr, 0); }
   Anybuf* Node() override { return Keep(ToNode(Next())); }
@@ -47,6 +44,7 @@ class TextInputs : public Inputs {
   size_t Room(const Function&) override { return 1500; }
   void ExpectUnchanged() override {
     for (const auto& [node, text] : kept_) EXPECT_EQ(Describe(node.get()), text);
+    if (given_ != nullptr && !kept_.empty()) given_->next = nullptr;
   }
   void BeforeObject(size_t size) override { DirtyHeap(size); }
 
