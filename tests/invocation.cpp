@@ -70,9 +70,9 @@ void Invocation::Out::Settle(int32_t code, const Rule& rule) {
   }
   if (kind == Kind::kNode && IsWritten()) ExpectWhole(As<Anybuf*>());
   size_t end = buffer.size == Buffer::kNoSize ? 0 : buffer.size;
-  // A text ends with a zero that its size does not count; without one nothing was written.
+  // A text ends with a zero that its size does not count; without one it is empty, or not written.
   const auto zero = std::find(buffer.bytes.begin(), buffer.bytes.end(), 0);
-  if (kind == Kind::kText && zero != buffer.bytes.end()) {
+  if (kind == Kind::kText && (zero != buffer.bytes.end() || (IsWritten() && buffer.size != 0))) {
     end = static_cast<size_t>(zero - buffer.bytes.begin());
     EXPECT_TRUE(!isSized || buffer.size == end);
     buffer.size = static_cast<uint32_t>(end++);
