@@ -1,21 +1,27 @@
 /// @file velkord.hpp
 /// An optional C++20 interface, this header alone: owning handles, views, ranges and error codes
-/// for the functions of Velkord.h, which are still called by name.
+/// for the functions of Velkord.h, which are still called by name, and readers of times, object
+/// identifiers and strings.
 ///
-/// **Memory.** Nothing here allocates but the standard library when it reports an error:
-/// `std::error_category::message` has to return a `std::string`, and an exception holds one.
+/// **Memory.** Nothing here allocates but the standard library: for the strings that `ObjectIdText`
+/// and `Utf8Text` return, and when it reports an error, since `std::error_category::message` has to
+/// return a `std::string` and an exception holds one.
 ///
-/// **Exceptions.** Only `Check`, `Make` and `Length` throw. Where exceptions are switched off these
-/// three are left out.
+/// **Exceptions.** What throws is left out where exceptions are switched off: `Check`, `Make`,
+/// `Length`, `Content`, `ReadTime`, `ObjectIdText` and `Utf8Text`.
 ///
 /// **Threads.** As with the functions themselves, different objects may be used at the same time.
 #ifndef VELKORD_HPP_
 #define VELKORD_HPP_
 
+#include <algorithm>
+#include <charconv>
+#include <chrono>
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
+#include <limits>
 #include <memory>
 #include <span>
 #include <stdexcept>
@@ -294,6 +300,45 @@ class ErrorCategory final : public std::error_category {
   return ToErrorCode(static_cast<std::int32_t>(code));
 }
 
+// -------------------------------------------------------------------------------------------------
+// Object identifiers
+// -------------------------------------------------------------------------------------------------
+
+/// Writes the dotted text of an OBJECT IDENTIFIER's content octets to `[first, last)`, without a
+/// terminating zero, and returns its end. Four characters for each octet are always enough; `ec` is
+/// `std::errc::value_too_large` when the text does not fit, and `std::errc::invalid_argument` for
+/// octets that are no identifier: none at all, the last arc cut off, an arc that begins with 0x80
+/// or has more than 64 bits (the first two arcs share one number). After an error the buffer may
+/// hold part of the text.
+[[nodiscard]] inline std::to_chars_result ObjectIdToChars(char* first, char* last,
+                                                          Bytes content) noexcept {
+  char* at = first;
+  std::uint64_t arc = 0;
+  bool isArcStart = true;
+  for (const std::uint8_t octet : content) {
+    if ((isArcStart && octet == 0x80) || arc > std::numeric_limits<std::uint64_t>::max() >> 7) {
+      return {first, std::errc::invalid_argument};
+    }
+    arc = arc << 7 | (octet & 0x7F);
+    isArcStart = octet < 0x80;
+    if (!isArcStart) continue;
+    if (last - at < 2) return {last, std::errc::value_too_large};
+    if (at == first) {
+      // The first two arcs share a number, and the first of them is at most 2.
+      const std::uint64_t root = std::min<std::uint64_t>(arc / 40, 2);
+      *at++ = static_cast<char>('0' + root);
+      arc -= root * 40;
+    }
+    *at++ = '.';
+    const std::to_chars_result written = std::to_chars(at, last, arc);
+    if (written.ec != std::errc()) return written;
+    at = written.ptr;
+    arc = 0;
+  }
+  if (at == first || !isArcStart) return {first, std::errc::invalid_argument};
+  return {at, std::errc()};
+}
+
 }  // namespace velkord
 
 /// @cond
@@ -335,6 +380,133 @@ template <std::integral Count = std::uint32_t, typename Container>
   }
   return static_cast<Count>(std::size(bytes));
 }
+
+/// The content of one whole element whose tag has one octet: a view. As in the functions, length
+/// octets may be more than needed. Throws `std::system_error` with `Errc::kWrongTag` for a longer
+/// tag, `Errc::kFailure` for a length of more than four octets, and `Errc::kSizeMismatch` for the
+/// indefinite form, for bytes missing and for bytes after the element.
+[[nodiscard]] inline Bytes Content(Bytes element) {
+  constexpr const char* kStep = "open an element";
+  if (element.size() < 2) throw std::system_error(Errc::kSizeMismatch, kStep);
+  if ((element[0] & 0x1F) == 0x1F) throw std::system_error(Errc::kWrongTag, kStep);
+  std::size_t length = element[1];
+  Bytes rest = element.subspan(2);
+  if (length >= 0x80) {
+    const std::size_t octets = length & 0x7F;
+    if (octets > 4) throw std::system_error(Errc::kFailure, kStep);
+    if (octets == 0 || octets > rest.size()) throw std::system_error(Errc::kSizeMismatch, kStep);
+    length = 0;
+    for (const std::uint8_t octet : rest.first(octets)) length = length << 8 | octet;
+    rest = rest.subspan(octets);
+  }
+  if (length != rest.size()) throw std::system_error(Errc::kSizeMismatch, kStep);
+  return rest;
+}
+
+/// The time, in UTC, of a whole UTCTime or GeneralizedTime element: every year that they can write,
+/// 0 to 9999, where the functions end in 2038. The two digits of a UTCTime stand for 1950 to 2049.
+/// It takes the forms of DER alone, `YYMMDDHHMMSSZ` and `YYYYMMDDHHMMSSZ`; there is no second 60.
+/// Throws `std::system_error` as `Content` does, with `Errc::kWrongTag` for another tag, and with
+/// `Errc::kBadTime` for another form and for what no calendar or clock shows.
+/// @{
+[[nodiscard]] inline std::chrono::sys_seconds ReadTime(Bytes element) {
+  constexpr const char* kStep = "read a time";
+  const Bytes text = Content(element);
+  const bool isUtcTime = element[0] == 0x17;
+  if (!isUtcTime && element[0] != 0x18) throw std::system_error(Errc::kWrongTag, kStep);
+  const std::size_t digits = isUtcTime ? 12 : 14;
+  if (text.size() != digits + 1 || text.back() != 'Z' ||
+      !std::ranges::all_of(text.first(digits), [](auto c) { return c >= '0' && c <= '9'; })) {
+    throw std::system_error(Errc::kBadTime, kStep);
+  }
+  // A number of two digits, by how far it starts from the Z.
+  const auto number = [&](std::size_t before) {
+    const Bytes at = text.last(before + 1);
+    return (at[0] - '0') * 10 + (at[1] - '0');
+  };
+  const int inCentury = number(12);
+  const int century = isUtcTime ? (inCentury < 50 ? 20 : 19) : number(14);
+  const std::chrono::year_month_day date(std::chrono::year(century * 100 + inCentury),
+                                         std::chrono::month(static_cast<unsigned>(number(10))),
+                                         std::chrono::day(static_cast<unsigned>(number(8))));
+  const std::chrono::hours hours(number(6));
+  const std::chrono::minutes minutes(number(4));
+  const std::chrono::seconds seconds(number(2));
+  if (!date.ok() || hours.count() > 23 || minutes.count() > 59 || seconds.count() > 59) {
+    throw std::system_error(Errc::kBadTime, kStep);
+  }
+  return std::chrono::sys_days(date) + hours + minutes + seconds;
+}
+[[nodiscard]] inline std::chrono::sys_seconds ReadTime(const Anybuf& node) {
+  return ReadTime(View(node));
+}
+/// @}
+
+/// The dotted text of an OBJECT IDENTIFIER's content octets, such as `Content` returns. Throws
+/// `std::system_error` with `Errc::kFailure` for what `ObjectIdToChars` calls no identifier.
+[[nodiscard]] inline std::string ObjectIdText(Bytes content) {
+  std::string text(content.size() * 4, '\0');
+  char* const first = text.data();
+  const auto [end, error] = ObjectIdToChars(first, first + text.size(), content);
+  if (error != std::errc()) throw std::system_error(Errc::kFailure, "read an object identifier");
+  text.resize(static_cast<std::size_t>(end - first));
+  return text;
+}
+
+/// The text of a whole string element as UTF-8. UTF8String, NumericString, PrintableString,
+/// IA5String and VisibleString come as they are, so that malformed ones stay malformed. T61String
+/// (also named TeletexString) is taken for Latin-1, as its writers mean it; BMPString for UTF-16,
+/// and UniversalString for UTF-32. Throws `std::system_error` as `Content` does, with
+/// `Errc::kWrongTag` for another type, and with `Errc::kFailure` for part of a character, a
+/// surrogate without the other, and what is above U+10FFFF.
+/// @{
+[[nodiscard]] inline std::string Utf8Text(Bytes element) {
+  constexpr const char* kStep = "read a string";
+  const Bytes content = Content(element);
+  std::size_t width = 0;
+  switch (element[0]) {
+    case 0x0C:  // UTF8String
+    case 0x12:  // NumericString
+    case 0x13:  // PrintableString
+    case 0x16:  // IA5String
+    case 0x1A:  // VisibleString
+      return {content.begin(), content.end()};
+    case 0x14:  // T61String
+      width = 1;
+      break;
+    case 0x1E:  // BMPString
+      width = 2;
+      break;
+    case 0x1C:  // UniversalString
+      width = 4;
+      break;
+    default:
+      throw std::system_error(Errc::kWrongTag, kStep);
+  }
+  if (content.size() % width != 0) throw std::system_error(Errc::kFailure, kStep);
+
+  std::string text;
+  std::uint32_t high = 0;  // The first surrogate of a pair, while the second is to come.
+  for (std::size_t at = 0; at != content.size(); at += width) {
+    std::uint32_t code = 0;
+    for (const std::uint8_t octet : content.subspan(at, width)) code = code << 8 | octet;
+    const bool isHigh = code >> 10 == 0xD800 >> 10;
+    const bool isLow = code >> 10 == 0xDC00 >> 10;
+    if (code > 0x10FFFF || isLow != (high != 0) || (isHigh && width != 2)) {
+      throw std::system_error(Errc::kFailure, kStep);
+    }
+    if (isLow) code = 0x10000 + ((high - 0xD800) << 10 | (code - 0xDC00));
+    high = isHigh ? code : 0;
+    if (isHigh) continue;
+    std::uint8_t form[6];
+    const std::int32_t size = uniToUTF8(form, sizeof form, code);
+    text.append(form, form + size);
+  }
+  if (high != 0) throw std::system_error(Errc::kFailure, kStep);
+  return text;
+}
+[[nodiscard]] inline std::string Utf8Text(const Anybuf& node) { return Utf8Text(View(node)); }
+/// @}
 
 }  // namespace velkord
 #endif  // __cpp_exceptions

@@ -103,12 +103,63 @@ TEST(Interface, BuildsChainsAndShowsThemAsRanges) {
   EXPECT_EQ(Describe(builder.Head()), "02 01 03");
 }
 
+// Each case is "octets = text", or the number of the error that is thrown.
+void ExpectTexts(std::string (*read)(Bytes), const std::vector<std::string>& cases) {
+  for (const std::string& one : cases) {
+    const std::string hex = one.substr(0, one.find(" = "));
+    std::string text;
+    try {
+      text = read(FromHex(hex));
+    } catch (const std::system_error& error) {
+      text = std::to_string(error.code().value());
+    }
+    EXPECT_EQ(text, one.substr(hex.size() + 3)) << one;
+  }
+}
+
+TEST(Interface, ReadsTimesOfEveryYear) {
+  ExpectTexts(
+      [](Bytes time) { return std::to_string(ReadTime(time).time_since_epoch().count()); },
+      {"17 0D \"491231235959Z\" = 2524607999", "17 81 0D \"500101000000Z\" = -631152000",
+       "18 0F \"00000229000000Z\" = -62162121600", "18 0F \"99991231235959Z\" = 253402300799",
+       "16 0D \"491231235959Z\" = -7", "17 0F \"20000101000000Z\" = -5",
+       "17 0D \"491231235959z\" = -5", "17 0D \"49123123595:Z\" = -5",
+       "17 0D \"49123123595/Z\" = -5", "17 0D \"490229000000Z\" = -5",
+       "18 0F \"20000001000000Z\" = -5", "18 0F \"20000101240000Z\" = -5",
+       "18 0F \"20000101006000Z\" = -5", "18 0F \"20000101000060Z\" = -5"});
+}
+
+TEST(Interface, WritesIdentifiersAsText) {
+  ExpectTexts(ObjectIdText, {"2A 86 48 = 1.2.840", "27 = 0.39",
+                             "81 FF FF FF FF FF FF FF FF 7F = 2.18446744073709551535",
+                             "FF*9 7F = -1", " = -1", "2A 86 = -1", "2A 80 01 = -1"});
+  // "1.2.99" needs all six.
+  char text[6];
+  EXPECT_EQ(ObjectIdToChars(text, text + 6, View("\x2A\x63")).ptr, text + 6);
+  for (size_t room = 0; room < 6; ++room) {
+    EXPECT_EQ(ObjectIdToChars(text, text + room, View("\x2A\x63")).ec, std::errc::value_too_large);
+  }
+}
+
+TEST(Interface, ReadsStringsAsUtf8) {
+  ExpectTexts(Utf8Text,
+              {"0C 82 00 03 C5 BB FF = \u017B\xFF", "14 02 \"Z\" FC = Z\u00FC",
+               "1E 08 79 3A D8 3D DE 00 00 41 = \u793A\U0001F600A",
+               "1C 08 00 01 F6 00 00 00 20 AC = \U0001F600\u20AC", "1E 03 79 3A 00 = -1",
+               "1E 04 D8 3D 00 41 = -1", "1E 04 00 41 D8 3D = -1", "1E 02 DE 00 = -1",
+               "1C 08 00 00 D8 3D 00 00 DE 00 = -1", "1C 04 00 11 00 00 = -1", "04 01 \"A\" = -7",
+               "13 = -2", "13 02 \"A\" = -2", "13 01 \"AB\" = -2", "13 80 00 00 = -2",
+               "13 82 00 = -2", "13 85 00 00 00 00 01 \"A\" = -1", "1F 0C 00 = -7"});
+  EXPECT_EQ(Utf8Text(*Nodes("13 02 \"CN\"")), "CN");
+}
+
 TEST(Interface, RequestsNoMemoryOfItsOwn) {
   const auto work = [] {
     ChainBuilder builder(Number(5), Number(5));
     builder.Append(Number(5));
     Node node = Number(5);
     for (const Anybuf& one : Chain(builder.Head())) EXPECT_EQ(Length(View(one)), 3U);
+    EXPECT_EQ(ReadTime(View("\x17\r700101000001Z")).time_since_epoch().count(), 1);
     return ToErrorCode(ASN1_ReadSequence(node.get(), Out(node)));
   };
   EXPECT_EQ(Watched(0, work), Errc::kWrongTag);
