@@ -91,6 +91,35 @@ def check_layout():
         same("Layout in C#", sorted(run("mono", program).splitlines()), wanted)
 
 
+def check_readers():
+    # What each reader returns, or the code that it raises.
+    for reader, octets, wanted in (
+            (velkord.read_time, b"\x17\x0D491231235959Z", "2049-12-31 23:59:59+00:00"),
+            (velkord.read_time, b"\x17\x0D500101000000Z", "1950-01-01 00:00:00+00:00"),
+            (velkord.read_time, b"\x18\x0F99991231235959Z", "9999-12-31 23:59:59+00:00"),
+            (velkord.read_time, b"\x16\x0D491231235959Z", -7),
+            (velkord.read_time, b"\x17\x0F20491231235959Z", -5),
+            (velkord.read_time, b"\x18\x0F20490229000000Z", -5),
+            (velkord.read_time, b"\x17\x0D49123123595Z", -2),
+            (velkord.object_id_text, b"\x2A\x86\x48", "1.2.840"),
+            (velkord.object_id_text, b"\x69\x83" + 17 * b"\xFF" + b"\x7F", f"2.25.{2**128 - 1}"),
+            (velkord.object_id_text, b"\x69\x84" + 17 * b"\x80" + b"\x00", -1),
+            (velkord.object_id_text, b"", -1),
+            (velkord.object_id_text, b"\x2A\x86", -1),
+            (velkord.object_id_text, b"\x2A\x80\x01", -1),
+            (velkord.utf8_text, b"\x0C\x03\xE7\xA4\xBA", "示"),
+            (velkord.utf8_text, b"\x14\x01\xFC", "ü"),
+            (velkord.utf8_text, b"\x1E\x06\x79\x3A\xD8\x3D\xDE\x00", "示\U0001F600"),
+            (velkord.utf8_text, b"\x1E\x02\xD8\x3D", -1),
+            (velkord.utf8_text, b"\x1E\x03\x79\x3A\x00", -1),
+            (velkord.utf8_text, b"\x33\x01A", -7)):
+        try:
+            found = str(reader(octets))
+        except velkord.VelkordError as error:
+            found = error.code
+        assert found == wanted, (octets, found)
+
+
 def issue(string_types, common_name, *options):
     """Returns a certificate whose texts have one of the string types in the mask."""
     config, certificate = WORK / "config", WORK / "issued.der"
@@ -176,6 +205,7 @@ def used_memory(certificate, rounds):
 
 check_names()
 check_layout()
+check_readers()
 whole = check_programs()
 before = used_memory(whole, 100)
 # The smallest block that can be lost is larger.

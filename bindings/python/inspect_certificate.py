@@ -11,24 +11,8 @@ PEM_BLOCK = re.compile(rb"-----BEGIN CERTIFICATE-----.*?-----END CERTIFICATE----
 # Reduced tags.
 INTEGER = 2
 OBJECT_ID = 6
-UTC_TIME = 23
-GENERALIZED_TIME = 24
 VERSION = 0xA0
 EXTENSIONS = 0xA3
-ENCODINGS = {
-    12: "utf-8",
-    18: "ascii",
-    19: "ascii",
-    20: "latin-1",
-    22: "ascii",
-    26: "ascii",
-    28: "utf-32-be",
-    30: "utf-16-be",
-}
-
-
-def content(node):
-    return bytes(velkord.ASN1_ReadOctetString(node))
 
 
 def elements(sequence):
@@ -38,16 +22,7 @@ def elements(sequence):
 def object_id(node):
     if node.dataType != OBJECT_ID:
         raise ValueError("not an object identifier")
-    arcs = [0]
-    octets = content(node)
-    for octet in octets:
-        arcs[-1] = arcs[-1] << 7 | octet & 0x7F
-        if octet < 0x80:
-            arcs.append(0)
-    if not octets or octets[-1] >= 0x80:
-        raise ValueError("an object identifier without its end")
-    first = min(arcs[0] // 40, 2)
-    return ".".join(map(str, [first, arcs[0] - 40 * first] + arcs[1:-1]))
+    return velkord.object_id_text(velkord.content(node))
 
 
 def escaped(text):
@@ -59,8 +34,8 @@ def escaped(text):
 
 def string(node):
     try:
-        return escaped(content(node).decode(ENCODINGS[node.dataType]))
-    except (KeyError, UnicodeDecodeError):
+        return escaped(velkord.utf8_text(node))
+    except velkord.VelkordError:
         return "#" + bytes(node).hex().upper()
 
 
@@ -71,17 +46,8 @@ def attributes(name):
             yield f"{object_id(kind)} = {string(value)}"
 
 
-# Read from the text itself: the library's own reader returns local time and ends in 2038.
 def time(node):
-    text = content(node).decode("ascii", "replace")
-    if node.dataType == UTC_TIME:
-        # Two-digit years run from 1950 to 2049.
-        text = ("20" if text[:1] < "5" else "19") + text
-    elif node.dataType != GENERALIZED_TIME:
-        raise ValueError("not a time")
-    if not re.fullmatch(r"[0-9]{14}Z", text):
-        raise ValueError("a time in another form")
-    return re.sub(r"(....)(..)(..)(..)(..)(..)Z", r"\1-\2-\3 \4:\5:\6 UTC", text)
+    return str(velkord.read_time(node)).replace("+00:00", " UTC")
 
 
 def extensions(node):
@@ -107,7 +73,7 @@ def certificate_lines(der):
     key_algorithm, _ = velkord.ASN1_GetSubjectPublicKeyInfo(key)
 
     yield f"version: {version}"
-    yield f"serial number: {content(serial).hex().upper()}"
+    yield f"serial number: {velkord.content(serial).hex().upper()}"
     yield "issuer:"
     yield from ("  " + attribute for attribute in attributes(issuer))
     yield "subject:"

@@ -13,9 +13,14 @@ bytes, and what the function hands out, which comes back: None, one value, or a 
 - Bytes that the function did not write come back as None.
 
 A return code below 0 raises VelkordError. The library is $VELKORD_LIBRARY, or found by its name.
+
+content, read_time, object_id_text and utf8_text are what velkord.hpp has for C++: they read elements,
+times beyond 2038 too, as values of Python.
 """
 import ctypes
+import datetime
 import os
+import re
 import weakref
 
 import velkord_api
@@ -282,6 +287,81 @@ def utf8ToUni(text):
     if size <= 0:
         raise ValueError(f"no UTF-8 form at the start of {text[:6]}")
     return size, code.value
+
+
+# -------------------------------------------------------------------------------------------------
+# Values of elements
+# -------------------------------------------------------------------------------------------------
+
+# By the octet of the tag.
+_ENCODINGS = {
+    0x0C: "utf-8",  # UTF8String
+    0x12: "ascii",  # NumericString
+    0x13: "ascii",  # PrintableString
+    0x14: "latin-1",  # T61String, as its writers mean it
+    0x16: "ascii",  # IA5String
+    0x1A: "ascii",  # VisibleString
+    0x1C: "utf-32-be",  # UniversalString
+    0x1E: "utf-16-be",  # BMPString
+}
+
+
+def content(element):
+    """Returns the content of one whole element, a TLV node or bytes."""
+    node = element if isinstance(element, Handle) else ASN1_WriteExplicitFromDERData(element)
+    return bytes(ASN1_ReadOctetString(node))
+
+
+def read_time(element):
+    """Returns the time of a UTCTime or GeneralizedTime element as a datetime in UTC.
+
+    The two digits of a UTCTime stand for 1950 to 2049. Only the forms of DER are taken,
+    YYMMDDHHMMSSZ and YYYYMMDDHHMMSSZ, with a year that a datetime can have, 1 to 9999.
+    """
+    text = content(element).decode("latin-1")
+    tag = bytes(element)[0]
+    if tag == 0x17:
+        text = ("20" if text[:1] < "5" else "19") + text
+    elif tag != 0x18:
+        raise VelkordError("read_time", velkord_api.VELKORD_WRONG_TAG)
+    try:
+        fields = re.fullmatch("([0-9]{4})" + 5 * "([0-9]{2})" + "Z", text).groups()
+        return datetime.datetime(*map(int, fields), tzinfo=datetime.timezone.utc)
+    except (AttributeError, ValueError):
+        raise VelkordError("read_time", velkord_api.VELKORD_BAD_TIME) from None
+
+
+def object_id_text(octets):
+    """Returns the dotted text of an OBJECT IDENTIFIER's content octets.
+
+    An arc has at most 128 bits, as a UUID in 2.25 has, and not the 64 of the one for C++.
+    """
+    arcs = []
+    if re.fullmatch(rb"((?!\x80)[\x80-\xFF]{,18}[\x00-\x7F])+", octets):
+        for arc in re.findall(rb"[\x80-\xFF]*[\x00-\x7F]", octets):
+            arcs.append(0)
+            for octet in arc:
+                arcs[-1] = arcs[-1] << 7 | octet & 0x7F
+    if not arcs or max(arcs) >> 128:
+        raise VelkordError("object_id_text", velkord_api.VELKORD_FAILURE)
+    first = min(arcs[0] // 40, 2)
+    return ".".join(map(str, [first, arcs[0] - 40 * first, *arcs[1:]]))
+
+
+def utf8_text(element):
+    """Returns the text of a string element by its type.
+
+    T61String is taken for Latin-1, BMPString for UTF-16. Bytes that are no text of their type are
+    refused.
+    """
+    octets = content(element)
+    tag = bytes(element)[0]
+    if tag not in _ENCODINGS:
+        raise VelkordError("utf8_text", velkord_api.VELKORD_WRONG_TAG)
+    try:
+        return octets.decode(_ENCODINGS[tag])
+    except UnicodeDecodeError:
+        raise VelkordError("utf8_text", velkord_api.VELKORD_FAILURE) from None
 
 
 # -------------------------------------------------------------------------------------------------
