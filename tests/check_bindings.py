@@ -1,5 +1,5 @@
 """Holds the declarations for other languages to the library, and what the programs in Python and
-Pascal read in certificates to what openssl reads. tests/CMakeLists.txt sets the environment."""
+Pascal and that of the guide read in certificates to what openssl reads. tests/CMakeLists.txt sets the environment."""
 import contextlib
 import ctypes
 import difflib
@@ -21,6 +21,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 PYTHON = pathlib.Path(velkord.__file__).parent
 DELPHI, CSHARP = PYTHON.parent / "delphi", PYTHON.parent / "csharp"
 LIBRARY = pathlib.Path(os.environ["VELKORD_LIBRARY"])
+GUIDE = os.environ["GUIDE_CERTIFICATE"]
 BUNDLE = pathlib.Path("/etc/ssl/certs/ca-certificates.crt")
 FOLDER = tempfile.TemporaryDirectory()
 WORK = pathlib.Path(FOLDER.name)
@@ -141,6 +142,14 @@ def read_by_openssl(certificate):
     return text.splitlines()
 
 
+def key_by_openssl(certificate):
+    text = run("openssl", "x509", "-noout", "-text", data=certificate)
+    size = (int(re.search(r"Public-Key: \(([0-9]+) bit\)", text)[1]) + 7) // 8
+    if "rsaEncryption" in text:
+        return f"key: RSA, a modulus of {size} bytes"
+    return f"key: another curve, a point of {1 + 2 * size} bytes"
+
+
 def check_programs():
     """Returns a certificate of version 3."""
     extensions = ("-days", "36500", "-addext", "basicConstraints=critical,CA:TRUE",
@@ -158,8 +167,12 @@ def check_programs():
         wanted = read_by_openssl(certificate)
         lines = list(inspect_certificate.certificate_lines(certificate))
         same("Certificate in Python", lines[1:len(wanted) + 1], wanted)
+        pem.write_text("A text -- and its block:\n" + ssl.DER_cert_to_PEM_cert(certificate))
+        said = re.sub("^  (attribute|common name): ", "  ", run(GUIDE, pem), flags=re.MULTILINE)
+        same("Certificate in the guide", said.splitlines(),
+             [re.sub("^  [0-9.]+ = ", "  ", line) for line in lines[:1] + wanted] +
+             [key_by_openssl(certificate)])
         if list_subject:
-            pem.write_text(ssl.DER_cert_to_PEM_cert(certificate))
             same("Subject in Pascal", run(list_subject, pem).splitlines(),
                  [line[2:] for line in wanted[wanted.index("subject:") + 1:-2]])
 

@@ -1,4 +1,5 @@
-// Issues a certificate and reads it. The signature is a fixed block.
+// Shows the certificates in the PEM files that it is given. Without any it issues one, whose
+// signature is a fixed block, and reads that.
 #include "parts.h"
 
 // A number of the issuer's choice: no zero in front, and the first byte below 0x80.
@@ -87,61 +88,87 @@ static Anybuf* Issue(void) {
 }
 // [/issue]
 
-static void ReadVersionAndNumber(const TBSCertificate* tbs) {
-  // [read_number]
+static void PrintVersion(const TBSCertificate* tbs) {
+  // [read_version]
   Anybuf* version = NULL;
   uint32_t tag = 0;
   uint32_t number = 0;
   CHECK(ASN1_ReadExplicit(tbs->versionNode, &version, &tag));
   CHECK(ASN1_ReadInteger(version, &number));
-  REQUIRE(tag == 0xA0 && number == 2);
+  REQUIRE(tag == 0xA0);
+  printf("version: %u\n", (unsigned)number + 1);
 
   Anybuf* serialNumber = NULL;
   CHECK(ASN1_ReadIntegerArray(tbs->serialNumber, &serialNumber));
-  Expect(serialNumber, 2, "4D 01 F2 83 9C 5E 20 B7");
-  // [/read_number]
+  printf("serial number: ");
+  for (uint32_t at = 0; at < serialNumber->dataLen; ++at) printf("%02X", serialNumber->data[at]);
+  printf("\n");
+  // [/read_version]
   ASN1_FreeAnybuf(serialNumber);
   ASN1_FreeAnybuf(version);
 }
 
-static void ReadValidity(const TBSCertificate* tbs) {
-  int32_t notBefore = 0;
-  int32_t notAfter = 0;
-  CHECK(ASN1_GetValidity(tbs->validity, &notBefore, &notAfter));
-  REQUIRE(notBefore == kTime2026 && notAfter == kTime2027);
+// [read_name]
+static void PrintAttribute(const Anybuf* type, const Anybuf* value) {
+  uint8_t* text = (uint8_t*)malloc(2 * (size_t)value->dataLen);
+  REQUIRE(text != NULL);
+  const uint32_t length = TextOf(value, text);
+  printf("  %s: %.*s\n", IsObjectId(type, "2.5.4.3") ? "common name" : "attribute", (int)length,
+         (const char*)text);
+  free(text);
 }
 
-// [read_name]
-// Finds the common name in a name and returns it as a content node, or null.
-static Anybuf* CommonName(const Anybuf* name) {
-  Anybuf* found = NULL;
+static void PrintName(const Anybuf* name) {
   Anybuf* relativeNames = NULL;
   CHECK(ASN1_ReadDerName(name, &relativeNames));
-  for (const Anybuf* one = relativeNames; one != NULL && found == NULL; one = one->next) {
+  for (const Anybuf* relative = relativeNames; relative != NULL; relative = relative->next) {
     Anybuf* attributes = NULL;
-    Anybuf* type = NULL;
-    Anybuf* value = NULL;
-    CHECK(ASN1_ReadRelativeDistinguishedName(one, &attributes));
-    // The first attribute; nearly all relative names have one alone.
-    CHECK(ASN1_DecodeDerAttributeTypeAndValue(attributes, &type, &value));
-    if (IsObjectId(type, "2.5.4.3")) CHECK(ASN1_ReadUTF8String(value, &found));
-    ASN1_FreeAnybuf(value);
-    ASN1_FreeAnybuf(type);
+    CHECK(ASN1_ReadRelativeDistinguishedName(relative, &attributes));
+    for (const Anybuf* one = attributes; one != NULL; one = one->next) {
+      Anybuf* type = NULL;  // And its value after it.
+      CHECK(ASN1_ReadSequence(one, &type));
+      REQUIRE(type != NULL && type->next != NULL);
+      PrintAttribute(type, type->next);
+      ASN1_FreeAnybuf(type);
+    }
     ASN1_FreeAnybuf(attributes);
   }
   ASN1_FreeAnybuf(relativeNames);
-  return found;
 }
 // [/read_name]
 
-static void ReadSubject(const TBSCertificate* tbs) {
-  Anybuf* name = CommonName(tbs->subject);
-  REQUIRE(name != NULL);
-  Expect(name, 12, "47 75 69 64 65 20 41 75 74 68 6F 72 69 74 79");
-  ASN1_FreeAnybuf(name);
+// [read_time]
+static void PrintTime(const char* label, const Anybuf* time) {
+  const bool isUtcTime = time->dataType == 23;
+  const int yearDigits = isUtcTime ? 2 : 4;
+  Anybuf* text = NULL;
+  REQUIRE(isUtcTime || time->dataType == 24);
+  CHECK(ASN1_ReadCharString(time, &text));
+  // Such as "260101000000Z", or "20260101000000Z" in a GeneralizedTime.
+  REQUIRE(text->dataLen == (uint32_t)yearDigits + 11 && text->data[text->dataLen - 1] == 'Z');
+  for (uint32_t at = 0; at + 1 < text->dataLen; ++at) {
+    REQUIRE(text->data[at] >= '0' && text->data[at] <= '9');
+  }
+  const char* year = (const char*)text->data;
+  const char* rest = year + yearDigits;
+  // Two digits stand for 1950 to 2049.
+  const char* century = !isUtcTime ? "" : *year < '5' ? "20" : "19";
+  printf("%s: %s%.*s-%.2s-%.2s %.2s:%.2s:%.2s UTC\n", label, century, yearDigits, year, rest,
+         rest + 2, rest + 4, rest + 6, rest + 8);
+  ASN1_FreeAnybuf(text);
 }
 
-static void ReadKey(const TBSCertificate* tbs) {
+static void PrintValidity(const TBSCertificate* tbs) {
+  Anybuf* times = NULL;
+  CHECK(ASN1_ReadSequence(tbs->validity, &times));
+  REQUIRE(times != NULL && times->next != NULL);
+  PrintTime("not before", times);
+  PrintTime("not after", times->next);
+  ASN1_FreeAnybuf(times);
+}
+// [/read_time]
+
+static void PrintKey(const TBSCertificate* tbs) {
   // [read_key]
   Anybuf* algorithm = NULL;
   Anybuf* bits = NULL;
@@ -149,14 +176,22 @@ static void ReadKey(const TBSCertificate* tbs) {
 
   Anybuf* oid = NULL;
   Anybuf* curve = NULL;
+  Anybuf* key = NULL;
   CHECK(ASN1_GetAlgorithmIdentifier(algorithm, &oid, NULL, &curve));
-  REQUIRE(curve != NULL && IsObjectId(curve, "1.2.156.10197.1.301"));
-
-  Anybuf* point = NULL;
-  CHECK(ASN1_ReadBitString(bits, &point));
-  REQUIRE(point->dataLen == sizeof kPoint && memcmp(point->data, kPoint, sizeof kPoint) == 0);
+  CHECK(ASN1_ReadBitString(bits, &key));
+  if (IsObjectId(oid, "1.2.840.113549.1.1.1")) {
+    Anybuf* modulus = RsaModulus(key);
+    printf("key: RSA, a modulus of %u bytes\n", (unsigned)modulus->dataLen);
+    ASN1_FreeAnybuf(modulus);
+  } else if (IsObjectId(oid, "1.2.840.10045.2.1")) {
+    const bool isSm2 = curve != NULL && IsObjectId(curve, "1.2.156.10197.1.301");
+    printf("key: %s, a point of %u bytes\n", isSm2 ? "SM2" : "another curve",
+           (unsigned)key->dataLen);
+  } else {
+    printf("key: another algorithm, %u bytes\n", (unsigned)key->dataLen);
+  }
   // [/read_key]
-  ASN1_FreeAnybuf(point);
+  ASN1_FreeAnybuf(key);
   ASN1_FreeAnybuf(curve);
   ASN1_FreeAnybuf(oid);
   ASN1_FreeAnybuf(bits);
@@ -215,44 +250,58 @@ static void WriteAgain(TBSCertificate* tbs, const Anybuf* signedPart) {
   ASN1_FreeAnybuf(list);
 }
 
-// Takes over the record.
-static void ListSubject(TBSCertificate* tbs) {
-  // [subject]
-  X509Cert* view = X509CertCreate(NULL);
-  REQUIRE(view != NULL);
-  view->tbs = tbs;  // From here on the view owns it.
-  CHECK(X509CertGetSubject(view));
-  for (const CertEntry* entry = view->subjectEntries; entry != NULL; entry = entry->next) {
-    if (entry->value == NULL) continue;
-    printf("  \"%.*s\" in the subject\n", (int)entry->valueLen, (const char*)entry->value);
-  }
-  X509CertFree(view);
-  // [/subject]
-}
-
-static void Read(const uint8_t* der, uint32_t length) {
+// Shows any certificate. One that was issued here has more that is looked at.
+static void Show(const Anybuf* der, bool wasIssuedHere) {
   // [decode]
   Certificate* certificate = NULL;
-  TBSCertificate* tbs = NULL;
-  CHECK(ASN1_CertificateDecode(der, length, &certificate));
-  CHECK(ASN1_TBSCertificateDecode(certificate->tbsCertificate, &tbs));
+  CHECK(ASN1_CertificateDecode(der->data, der->dataLen, &certificate));
+  TBSCertificate* tbs = DecodeSignedPart(certificate->tbsCertificate);
   // [/decode]
-  ReadVersionAndNumber(tbs);
-  ReadValidity(tbs);
-  ReadSubject(tbs);
-  ReadKey(tbs);
-  ReadKeyUsage(tbs);
-  ReadSignature(certificate, der, length);
-  WriteAgain(tbs, certificate->tbsCertificate);
-  ListSubject(tbs);
+  PrintVersion(tbs);
+  printf("issuer:\n");
+  PrintName(tbs->issuer);
+  printf("subject:\n");
+  PrintName(tbs->subject);
+  PrintValidity(tbs);
+  PrintKey(tbs);
+  if (wasIssuedHere) {
+    ReadKeyUsage(tbs);
+    ReadSignature(certificate, der->data, der->dataLen);
+    WriteAgain(tbs, certificate->tbsCertificate);
+  }
+  ASN1_FreeTBSCertificate(tbs);
   ASN1_FreeCertificate(certificate);
 }
 
-int main(void) {
+static void ShowFile(const char* name) {
+  static char text[1 << 20];  // Files are smaller than this.
+  const char* const kBegin = "-----BEGIN CERTIFICATE-----";
+  FILE* file = fopen(name, "rb");
+  REQUIRE(file != NULL);
+  const size_t size = fread(text, 1, sizeof text, file);
+  REQUIRE(size < sizeof text && fclose(file) == 0);
+  text[size] = '\0';
+
+  uint32_t length = 0;
+  const char* block = FindBlock(text, &length);
+  while (block != NULL) {
+    if (strncmp(block, kBegin, strlen(kBegin)) == 0) {
+      Anybuf* certificate = DecodeBlock(block, length);
+      Show(certificate, false);
+      ASN1_FreeAnybuf(certificate);
+    }
+    block = FindBlock(block + length, &length);
+  }
+}
+
+int main(int count, char** arguments) {
   UseUtc();
+  for (int at = 1; at < count; ++at) ShowFile(arguments[at]);
+  if (count > 1) return 0;
+
   Anybuf* certificate = Issue();
   PrintPem("-----BEGIN CERTIFICATE-----", "-----END CERTIFICATE-----", certificate);
-  Read(certificate->data, certificate->dataLen);
+  Show(certificate, true);
   ASN1_FreeAnybuf(certificate);
   return 0;
 }

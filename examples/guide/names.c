@@ -117,28 +117,6 @@ static Anybuf* AnyRelativeName(const char* oidText, Anybuf* value) {
 }
 // [/bmp_string]
 
-// [any_string]
-// Writes the text of a string TLV node to `out` as UTF-8 and returns the number of bytes. Twice the
-// size of the node is enough room.
-static uint32_t TextOf(const Anybuf* value, uint8_t* out) {
-  Anybuf* content = NULL;
-  uint32_t written = 0;
-  CHECK(ASN1_ReadBmpString(value, &content));
-  if (value->dataType == 30) {
-    for (uint32_t at = 0; at + 1 < content->dataLen; at += 2) {
-      const uint32_t code = (uint32_t)content->data[at] << 8 | content->data[at + 1];
-      written += (uint32_t)uniToUTF8(out + written, 3, code);
-    }
-  } else {
-    // UTF8String, PrintableString and IA5String are UTF-8 as they stand.
-    memcpy(out, content->data, content->dataLen);
-    written = content->dataLen;
-  }
-  ASN1_FreeAnybuf(content);
-  return written;
-}
-// [/any_string]
-
 static void ShowBmpName(void) {
   printf("A BMPString in a name\n");
   // [bmp_name]

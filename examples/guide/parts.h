@@ -57,6 +57,23 @@ static inline Anybuf* KeyInfo(Anybuf* algorithm, const uint8_t* key, uint32_t le
 }
 // [/key_info]
 
+// [rsa_modulus]
+// Returns the modulus of an RSA public key of any size, as a content node. `key` is the content of
+// the BIT STRING in the key info.
+static inline Anybuf* RsaModulus(const Anybuf* key) {
+  Anybuf* publicKey = Element(key->data, key->dataLen);
+  Anybuf* modulus = NULL;
+  Anybuf* exponent = NULL;
+  Anybuf* bytes = NULL;
+  CHECK(ASN1_GetRSAPublicKey(publicKey, &modulus, &exponent));
+  CHECK(ASN1_ReadIntegerArray(modulus, &bytes));
+  ASN1_FreeAnybuf(exponent);
+  ASN1_FreeAnybuf(modulus);
+  ASN1_FreeAnybuf(publicKey);
+  return bytes;
+}
+// [/rsa_modulus]
+
 // [signature]
 // The algorithm of SM2 signatures with SM3. It has no parameter.
 static inline Anybuf* SignatureAlgorithm(void) { return Algorithm("1.2.156.10197.1.501", NULL); }
@@ -113,6 +130,51 @@ static inline Anybuf* FindExtension(const Anybuf* list, const char* oidText, boo
   return found;
 }
 // [/find_extension]
+
+// [any_string]
+// Writes the text of a string TLV node to `out` as UTF-8 and returns the number of bytes. Twice the
+// size of the node is enough room.
+static inline uint32_t TextOf(const Anybuf* value, uint8_t* out) {
+  // A BMPString has two bytes for each character. A T61String has one, which is taken for Latin-1.
+  const bool isBmpString = value->dataType == 30;
+  const bool isT61String = value->dataType == 20;
+  const uint32_t width = isBmpString ? 2 : 1;
+  Anybuf* content = NULL;
+  uint32_t written = 0;
+  CHECK(ASN1_ReadBmpString(value, &content));
+  for (uint32_t at = 0; at + width <= content->dataLen; at += width) {
+    uint32_t code = content->data[at];
+    if (isBmpString) code = code << 8 | content->data[at + 1];
+    if (isBmpString || isT61String) {
+      written += (uint32_t)uniToUTF8(out + written, 3, code);
+    } else {
+      out[written++] = (uint8_t)code;  // The others are UTF-8 as they stand.
+    }
+  }
+  ASN1_FreeAnybuf(content);
+  return written;
+}
+// [/any_string]
+
+// [version_1]
+// Decodes the signed part of a certificate. One of version 1 gets its version put in front first.
+static inline TBSCertificate* DecodeSignedPart(const Anybuf* signedPart) {
+  const uint8_t version1[] = {0xA0, 0x03, 0x02, 0x01, 0x00};
+  Anybuf* elements = NULL;
+  CHECK(ASN1_ReadSequence(signedPart, &elements));
+  REQUIRE(elements != NULL);
+  if (elements->dataType != 0xA0) {
+    Anybuf* version = Element(version1, sizeof version1);
+    version->next = elements;
+    elements = version;
+  }
+  Anybuf* withVersion = Sequence(elements);
+  TBSCertificate* tbs = NULL;
+  CHECK(ASN1_TBSCertificateDecode(withVersion, &tbs));
+  ASN1_FreeAnybuf(withVersion);
+  return tbs;
+}
+// [/version_1]
 
 // [prepend]
 // Makes the SEQUENCE of `first` and then the elements of `sequence`, and releases `first`.

@@ -1,20 +1,6 @@
 // PEM and Base64 text.
 #include "tools.h"
 
-// [find_block]
-// Finds the first PEM block in a zero-terminated text and stores its size. Returns null for none.
-static const char* FindBlock(const char* text, uint32_t* length) {
-  const char* begin = strstr(text, "-----BEGIN ");
-  if (begin == NULL) return NULL;
-  const char* footer = strstr(begin, "-----END ");
-  if (footer == NULL) return NULL;
-  const char* dashes = strstr(footer + strlen("-----END "), "-----");
-  if (dashes == NULL) return NULL;
-  *length = (uint32_t)(dashes + strlen("-----") - begin);
-  return begin;
-}
-// [/find_block]
-
 static const char kText[] =
     "Two numbers - the first is 5:\r\n"
     "-----BEGIN NUMBER-----\r\n"
@@ -31,17 +17,11 @@ static void ShowBlocks(void) {
   uint32_t length = 0;
   const char* block = FindBlock(kText, &length);
   while (block != NULL) {
-    uint8_t* der = (uint8_t*)malloc((size_t)length / 4 * 3 + 1);
-    uint32_t derLength = 0;
-    REQUIRE(der != NULL);
-    CHECK(PEM2DER_data_format(block, length, der, &derLength));
-
-    Anybuf* node = Element(der, derLength);
+    Anybuf* node = DecodeBlock(block, length);
     uint32_t number = 0;
     CHECK(ASN1_ReadInteger(node, &number));
     sum += number;
     ASN1_FreeAnybuf(node);
-    free(der);
     block = FindBlock(block + length, &length);
   }
   // [/read_blocks]

@@ -64,26 +64,6 @@ static void ShowTimeText(void) {
   ASN1_FreeAnybuf(notAfter);
 }
 
-// [version_1]
-// Decodes the signed part of a certificate. One of version 1 gets its version put in front first.
-static TBSCertificate* DecodeSignedPart(const Anybuf* signedPart) {
-  const uint8_t version1[] = {0xA0, 0x03, 0x02, 0x01, 0x00};
-  Anybuf* elements = NULL;
-  CHECK(ASN1_ReadSequence(signedPart, &elements));
-  REQUIRE(elements != NULL);
-  if (elements->dataType != 0xA0) {
-    Anybuf* version = Element(version1, sizeof version1);
-    version->next = elements;
-    elements = version;
-  }
-  Anybuf* withVersion = Sequence(elements);
-  TBSCertificate* tbs = NULL;
-  CHECK(ASN1_TBSCertificateDecode(withVersion, &tbs));
-  ASN1_FreeAnybuf(withVersion);
-  return tbs;
-}
-// [/version_1]
-
 static void ShowVersion1(void) {
   printf("A certificate of version 1\n");
   // The number 9, then algorithm, issuer, validity, subject and key info, which are empty here.

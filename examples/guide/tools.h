@@ -145,4 +145,31 @@ static inline void PrintPem(const char* header, const char* footer, const Anybuf
 }
 // [/print_pem]
 
+// [find_block]
+// Finds the first PEM block in a zero-terminated text and stores its size. Returns null for none.
+static inline const char* FindBlock(const char* text, uint32_t* length) {
+  const char* begin = strstr(text, "-----BEGIN ");
+  if (begin == NULL) return NULL;
+  const char* footer = strstr(begin, "-----END ");
+  if (footer == NULL) return NULL;
+  const char* dashes = strstr(footer + strlen("-----END "), "-----");
+  if (dashes == NULL) return NULL;
+  *length = (uint32_t)(dashes + strlen("-----") - begin);
+  return begin;
+}
+// [/find_block]
+
+// [decode_block]
+// Makes the TLV node of what a PEM block holds.
+static inline Anybuf* DecodeBlock(const char* block, uint32_t length) {
+  uint8_t* der = (uint8_t*)malloc((size_t)length / 4 * 3 + 1);
+  uint32_t derLength = 0;
+  REQUIRE(der != NULL);
+  CHECK(PEM2DER_data_format(block, length, der, &derLength));
+  Anybuf* node = Element(der, derLength);
+  free(der);
+  return node;
+}
+// [/decode_block]
+
 #endif  // VELKORD_EXAMPLES_GUIDE_TOOLS_H_
