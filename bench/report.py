@@ -1,8 +1,8 @@
 """Makes a table and a chart of the results of the bench.
 
 usage: report.py RESULTS FOLDER
-RESULTS is a JSON file of Google Benchmark that holds medians. Writes table.md and chart.svg into
-FOLDER and prints the table.
+RESULTS is a JSON file of Google Benchmark that holds medians. Writes table.md, chart.svg and
+chart_short.svg, a few cases for a narrow screen, into FOLDER and prints the table.
 """
 import json
 import math
@@ -21,6 +21,9 @@ CONTENDERS = {
     "icu": ("ICU", "#7a3b00"),
 }
 PEERS = list(CONTENDERS)[2:]
+# The cases of the short chart: of the texts in each direction the one that suits Velkord least.
+SHORT = ("certificate_decode", "certificate_write", "list_decode", "base64_encode_1536",
+         "base64_decode_1m", "der_to_pem", "gb_to_utf8_ascii", "utf8_to_gb_hanzi")
 NANOSECONDS = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}
 
 
@@ -178,6 +181,17 @@ def box(x, y, wide, high, colour):
             f'fill="{colour}"/>')
 
 
+def svg(width, height, title, body):
+    return f"""<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 {width} {height}" \
+width="{width}" height="{height}" role="img" font-family="Helvetica, Arial, sans-serif" \
+font-size="12" fill="#1f2328">
+<title>{title}</title>
+<rect width="{width}" height="{height}" fill="#ffffff"/>
+{body}
+</svg>
+"""
+
+
 def make_chart(rows):
     rows = [(case, times) for case, times in rows if len(times) > 1]
     ratios = [time / times["velkord"] for _, times in rows for time in times.values()]
@@ -225,14 +239,37 @@ def make_chart(rows):
             heading += [box(*swatch, colour), text(x + 18, 49, label)]
             x += 40 + 7 * len(label)
     body = "\n".join(bands + axis + bars + heading)
-    return f"""<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 {width} {y + 26}" \
-width="{width}" height="{y + 26}" role="img" font-family="Helvetica, Arial, sans-serif" \
-font-size="12" fill="#1f2328">
-<title>{title}</title>
-<rect width="{width}" height="{y + 26}" fill="#ffffff"/>
-{body}
-</svg>
-"""
+    return svg(width, y + 26, title, body)
+
+
+def make_short_chart(rows):
+    """The peers alone, each named at its bar, narrow enough to be read on a telephone."""
+    width, decade, one = 400, 72, 98
+
+    def place(ratio):
+        return one + decade * math.log10(ratio)
+
+    title = "How many times as long the peers take"
+    shapes = [text(12, 24, title, "start", ' font-size="15" font-weight="bold"')]
+    y = 40
+    for case, times in rows:
+        shapes += [text(12, y + 16, case.title, "start", ' font-size="13"'),
+                   text(width - 12, y + 16, figure(times["velkord"], case.item), "end")]
+        y += 22
+        peers = [peer for peer in PEERS if peer in times]
+        for peer in peers:
+            ratio = times[peer] / times["velkord"]
+            start, end = sorted((one, place(ratio)))
+            name, colour = CONTENDERS[peer]
+            shapes += [box(start, y + 2, max(end - start, 1), 13, colour),
+                       text(max(end, one) + 5, y + 13, f"{name} {rounded(ratio, math.floor)}×")]
+            y += 17
+        shapes.append(f'<line x1="{one}" x2="{one}" y1="{y - 17 * len(peers)}" y2="{y}" '
+                      'stroke="#1f2328" stroke-width="2"/>')
+        y += 8
+    shapes += [text(12, y + 14, "Right of the line Velkord is faster, left of it slower. The scale is"),
+               text(12, y + 30, "logarithmic. The figure at the right is Velkord's own.")]
+    return svg(width, y + 42, title, "\n".join(shapes))
 
 
 def main():
@@ -250,6 +287,8 @@ def main():
     table = make_table(rows)
     (folder / "table.md").write_text(table, encoding="utf-8")
     (folder / "chart.svg").write_text(make_chart(rows), encoding="utf-8")
+    short = [(cases[name], times[name]) for name in SHORT if len(times.get(name, {})) > 1]
+    (folder / "chart_short.svg").write_text(make_short_chart(short), encoding="utf-8")
     print(table, end="")
 
 
