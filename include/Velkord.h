@@ -13,7 +13,7 @@
 /// `BF 00` is 0xBF. Its low five bits are all set, as those of no tag of one octet are.
 ///
 /// **Lengths** count bytes. Those of elements are read in shortest form or not, with up to four
-/// octets after the first, and written in shortest form; the indefinite length (80) is refused.
+/// octets after the first, and written in shortest form; the indefinite one of BER (80) is refused.
 ///
 /// **Ownership.** What a function is given is copied and stays the caller's;
 /// `ASN1_SetAlgorithmIdentifier` alone differs. What it hands out is new: nodes and chains are
@@ -612,7 +612,8 @@ VELKORD_API int32_t ASN1_ReadRelativeDistinguishedNameFromByte(const uint8_t* by
 /// Makes the SEQUENCE of two times, which are not tested.
 VELKORD_API int32_t ASN1_SetValidity(const Anybuf* notBefore, const Anybuf* notAfter, Anybuf** out);
 /// Opens a Validity and reads both times, in either form; of more than two the last is notAfter.
-/// Also `VELKORD_BAD_TIME` and `VELKORD_OUT_OF_MEMORY`; what is no time is `VELKORD_WRONG_TAG`.
+/// Also `VELKORD_BAD_TIME` and `VELKORD_OUT_OF_MEMORY`, for three in five root certificates in use,
+/// which end after 2038; what is no time is `VELKORD_WRONG_TAG`.
 VELKORD_API int32_t ASN1_GetValidity(const Anybuf* source, int32_t* notBefore, int32_t* notAfter);
 /// Another name of `ASN1_FreeAnybuf`.
 VELKORD_API void ASN1_FreeValidity(Anybuf* chain);
@@ -742,10 +743,11 @@ VELKORD_API X509Cert* X509CertCreate(X509Cert** out);
 VELKORD_API void X509CertFree(X509Cert* record);
 /// Appends one entry to `subjectEntries` for the first attribute of each relative name in the
 /// subject of `tbs`. A UTF8String or PrintableString value comes as it stands, a BMPString as
-/// `ASN1_ReadBmpStringToBytes` reads it, and any other type leaves the value null. When memory runs
-/// out the entries that were made stay, and an entry whose OID or value could not be held has a
-/// null block of length 0 there. Returns `VELKORD_OK`, `VELKORD_FAILURE` (no memory for an entry)
-/// or `VELKORD_NULL_ARGUMENT` (also for a null `tbs` or subject).
+/// `ASN1_ReadBmpStringToBytes` reads it, and any other type, such as the IA5String of an email
+/// address, leaves the value null. When memory runs out the entries that were made stay, and an
+/// entry whose OID or value could not be held has a null block of length 0 there. Returns
+/// `VELKORD_OK`, `VELKORD_FAILURE` (no memory for an entry) or `VELKORD_NULL_ARGUMENT` (also for a
+/// null `tbs` or subject).
 VELKORD_API int32_t X509CertGetSubject(X509Cert* record);
 /// Looks up the extension whose OID is `oidText`, dotted text of `textLength` characters, in a
 /// decoded `tbs`. In its value, a SEQUENCE of items, each a SEQUENCE of OID and value, it looks for
@@ -809,7 +811,7 @@ VELKORD_API int32_t ASN1_CRL_TbsCertListWriteData(const TbsCertList* record, Any
 /// after thisUpdate, which sets the form, 0x17 or 0x18 nextUpdate, then 0x30 the revoked
 /// certificates; whatever is next is the extensions, of which the content is kept as it stands. A
 /// version other than 2, and a nextUpdate in the other form than thisUpdate, are not written again
-/// as they were. Also `VELKORD_BAD_TIME`.
+/// as they were. Also `VELKORD_BAD_TIME`: one time that is not read refuses the list.
 VELKORD_API int32_t ASN1_CRL_TbsCertListDecode(const uint8_t* bytes, uint32_t length,
                                                TbsCertList** out);
 
@@ -921,9 +923,9 @@ VELKORD_API int32_t ASN1_PKCS7_WriteData(const PKCS7Context* record, Anybuf** ou
 VELKORD_API int32_t ASN1_PKCS7_Decode(const uint8_t* bytes, uint32_t length, PKCS7Context** out);
 // -------------------------------------------------------------------------------------------------
 /// @defgroup rsa_keys RSA keys
-/// Keys of at most 2048 bits; `ASN1_SetRSAPublicKey` and `ASN1_GetRSAPublicKey` take public keys of
-/// any size. `VELKORD_FAILURE` also stands for a null argument and, when record and DER overlap,
-/// for a lack of memory; then nothing has changed.
+/// Keys of at most 2048 bits, which one certificate in three exceeds; `ASN1_SetRSAPublicKey` and
+/// `ASN1_GetRSAPublicKey` take public keys of any size. `VELKORD_FAILURE` also stands for a null
+/// argument and, when record and DER overlap, for a lack of memory; then nothing has changed.
 
 /// Writes the DER of a key to `der` and its size to `derLen`: RSAPublicKey, at most 526 bytes, or
 /// RSAPrivateKey of PKCS#1, at most 1450. With a null `der` the size alone is written. Returns
@@ -950,7 +952,8 @@ VELKORD_API int32_t ZantDecodePrivateKey(ZantPrivateKey* key, const uint8_t* der
 VELKORD_API int32_t ASN1_EccPubkey2Der(const EccPubkey* key, uint8_t* der, uint32_t* derLen);
 /// Fills a record from the DER of a SubjectPublicKeyInfo of exactly `derLen` bytes, whatever its
 /// algorithm: the point's second to 65th byte and `bits`, 256. The point's first byte is not
-/// tested, and bytes after the 65th are skipped. A shorter point is refused.
+/// tested, and bytes after the 65th are skipped, so **a point of P-384 passes**: test that it has
+/// 65 bytes. A shorter one is refused.
 VELKORD_API int32_t ASN1_Der2EccPubkey(const uint8_t* der, uint32_t derLen, EccPubkey* key);
 /// Fills a record from the DER of an ECPrivateKey in a PrivateKeyInfo of PKCS#8, of exactly
 /// `derLen` bytes, whatever its algorithm; `bits` becomes 256. A value of less than 32 bytes goes
@@ -966,8 +969,9 @@ VELKORD_API int32_t ASN1_Der2EccPrikey(const uint8_t* der, uint32_t derLen, EccP
 /// bytes more. Leading zero bytes stay.
 VELKORD_API int32_t ASN1_SM2_SM2SignatureEncode(const uint8_t* r, uint32_t rLen, const uint8_t* s,
                                                 uint32_t sLen, uint8_t* der, uint32_t* derLen);
-/// Copies the two numbers of a signature, each without the zero byte that keeps it positive. `r`
-/// and `s` need `derLen` bytes each.
+/// Copies the two numbers of a signature, each without the zero byte that keeps it positive. It is
+/// no test that they are DER, and writing again shows no leading zeros. `r` and `s` need `derLen`
+/// bytes each.
 VELKORD_API int32_t ASN1_SM2_SM2SignatureDecode(uint8_t* r, uint32_t* rLen, uint8_t* s,
                                                 uint32_t* sLen, const uint8_t* der,
                                                 uint32_t derLen);
@@ -1009,7 +1013,8 @@ VELKORD_API int32_t DER2PEM_data_format(const uint8_t* der, uint32_t length, cha
                                         uint32_t* outLength, const char* header,
                                         const char* footer);
 /// Decodes the first PEM block of a text of `length` characters, or bare Base64 when the text has
-/// no "-". Characters outside the alphabet are skipped. `out` needs 3 bytes for each 4 Base64
+/// no "-". Any "-" in front counts as its start, and header lines as its body: give it one block
+/// without them. Characters outside the alphabet are skipped. `out` needs 3 bytes for each 4 Base64
 /// characters of the body. Returns `VELKORD_OK`, or `VELKORD_FAILURE` when a marker or the end of
 /// the body is missing.
 VELKORD_API int32_t PEM2DER_data_format(const char* pem, uint32_t length, uint8_t* out,

@@ -1140,9 +1140,10 @@ public static class Velkord
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_PKCS7_Decode(byte[] bytes, uint length, ref IntPtr @out);
 
-    // ==== RSA keys. Keys of at most 2048 bits; `ASN1_SetRSAPublicKey` and `ASN1_GetRSAPublicKey`
-    // ==== take public keys of any size. `VELKORD_FAILURE` also stands for a null argument and,
-    // ==== when record and DER overlap, for a lack of memory; then nothing has changed.
+    // ==== RSA keys. Keys of at most 2048 bits, which one certificate in three exceeds;
+    // ==== `ASN1_SetRSAPublicKey` and `ASN1_GetRSAPublicKey` take public keys of any size.
+    // ==== `VELKORD_FAILURE` also stands for a null argument and, when record and DER overlap, for
+    // ==== a lack of memory; then nothing has changed.
 
     // Writes the DER of a key to `der` and its size to `derLen`: RSAPublicKey, at most 526 bytes,
     // or RSAPrivateKey of PKCS#1, at most 1450.

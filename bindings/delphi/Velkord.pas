@@ -1090,9 +1090,10 @@ function ASN1_PKCS7_WriteData(ARecord: PPKCS7Context; var AOut: PAnybuf): Intege
 function ASN1_PKCS7_Decode(ABytes: PByte; ALength: Cardinal; var AOut: PPKCS7Context): Integer;
   cdecl; external VelkordLibrary name 'ASN1_PKCS7_Decode';
 
-// ==== RSA keys. Keys of at most 2048 bits; `ASN1_SetRSAPublicKey` and `ASN1_GetRSAPublicKey` take
-// ==== public keys of any size. `VELKORD_FAILURE` also stands for a null argument and, when record
-// ==== and DER overlap, for a lack of memory; then nothing has changed.
+// ==== RSA keys. Keys of at most 2048 bits, which one certificate in three exceeds;
+// ==== `ASN1_SetRSAPublicKey` and `ASN1_GetRSAPublicKey` take public keys of any size.
+// ==== `VELKORD_FAILURE` also stands for a null argument and, when record and DER overlap, for a
+// ==== lack of memory; then nothing has changed.
 
 // Writes the DER of a key to `der` and its size to `derLen`: RSAPublicKey, at most 526 bytes, or
 // RSAPrivateKey of PKCS#1, at most 1450.

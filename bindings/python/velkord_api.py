@@ -722,9 +722,10 @@ FUNCTIONS = {
     "ASN1_PKCS7_WriteData": _of(c_int32, record=P(PKCS7Context), out=P(P(Anybuf))),
     # Decodes a ContentInfo.
     "ASN1_PKCS7_Decode": _of(c_int32, bytes=c_char_p, length=c_uint32, out=P(P(PKCS7Context))),
-    # ==== RSA keys. Keys of at most 2048 bits; `ASN1_SetRSAPublicKey` and `ASN1_GetRSAPublicKey`
-    # ==== take public keys of any size. `VELKORD_FAILURE` also stands for a null argument and, when
-    # ==== record and DER overlap, for a lack of memory; then nothing has changed.
+    # ==== RSA keys. Keys of at most 2048 bits, which one certificate in three exceeds;
+    # ==== `ASN1_SetRSAPublicKey` and `ASN1_GetRSAPublicKey` take public keys of any size.
+    # ==== `VELKORD_FAILURE` also stands for a null argument and, when record and DER overlap, for a
+    # ==== lack of memory; then nothing has changed.
     # Writes the DER of a key to `der` and its size to `derLen`: RSAPublicKey, at most 526 bytes, or
     # RSAPrivateKey of PKCS#1, at most 1450.
     "ZantEncodePublicKey": _of(c_int32, key=P(ZantPublicKey), der=P(c_uint8), derLen=P(c_uint32)),

@@ -38,6 +38,14 @@ static void ShowSignature(void) {
   SetNumber(rAgain, sizeof rAgain, rNumber, rLength);
   SetNumber(sAgain, sizeof sAgain, sNumber, sLength);
   // [/signature_decode]
+
+  // [signature_strict]
+  uint8_t written[2 * sizeof der + 20];
+  uint32_t writtenLength = 0;
+  REQUIRE(rLength <= 32 && rNumber[0] != 0 && sLength <= 32 && sNumber[0] != 0);
+  CHECK(ASN1_SM2_SM2SignatureEncode(rNumber, rLength, sNumber, sLength, written, &writtenLength));
+  REQUIRE(writtenLength == derLength && memcmp(written, der, derLength) == 0);
+  // [/signature_strict]
   REQUIRE(memcmp(r, rAgain, sizeof r) == 0 && memcmp(s, sAgain, sizeof s) == 0);
 }
 

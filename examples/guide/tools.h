@@ -164,7 +164,7 @@ static inline const char* FindBlock(const char* text, uint32_t* length) {
 static inline Anybuf* DecodeBlock(const char* block, uint32_t length) {
   uint8_t* der = (uint8_t*)malloc((size_t)length / 4 * 3 + 1);
   uint32_t derLength = 0;
-  REQUIRE(der != NULL);
+  REQUIRE(der != NULL && memchr(block, ':', length) == NULL);  // No header lines.
   CHECK(PEM2DER_data_format(block, length, der, &derLength));
   Anybuf* node = Element(der, derLength);
   free(der);
