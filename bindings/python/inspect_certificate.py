@@ -15,8 +15,10 @@ VERSION = 0xA0
 EXTENSIONS = 0xA3
 
 
+# [elements]
 def elements(sequence):
     return list(velkord.ASN1_ReadSequence(sequence) or [])
+# [/elements]
 
 
 def object_id(node):
@@ -32,33 +34,40 @@ def escaped(text):
         for char in text)
 
 
+# [string]
 def string(node):
     try:
         return escaped(velkord.utf8_text(node))
     except velkord.VelkordError:
         return "#" + bytes(node).hex().upper()
+# [/string]
 
 
+# [attributes]
 def attributes(name):
     for relative_name in elements(name):
         for attribute in velkord.ASN1_ReadSet(relative_name) or []:
             kind, value = elements(attribute)
             yield f"{object_id(kind)} = {string(value)}"
+# [/attributes]
 
 
 def time(node):
     return str(velkord.read_time(node)).replace("+00:00", " UTC")
 
 
+# [extensions]
 def extensions(node):
     sequence, _ = velkord.ASN1_ReadExplicit(node)
     for extension in velkord.ASN1_ReadExtensions(sequence) or []:
         kind, critical, _ = velkord.ASN1_GetExtension(extension)
         is_critical = critical is not None and velkord.ASN1_ReadBoolean(critical)
         yield object_id(kind) + (", critical" if is_critical else "")
+# [/extensions]
 
 
 def certificate_lines(der):
+    # [fields]
     certificate = velkord.ASN1_CertificateDecode(der)
     parts = elements(certificate.tbsCertificate)
     version = 1
@@ -71,6 +80,7 @@ def certificate_lines(der):
         raise ValueError("no serial number")
     not_before, not_after = map(time, elements(validity))
     key_algorithm, _ = velkord.ASN1_GetSubjectPublicKeyInfo(key)
+    # [/fields]
 
     yield f"version: {version}"
     yield f"serial number: {velkord.content(serial).hex().upper()}"
@@ -87,11 +97,13 @@ def certificate_lines(der):
             yield from ("  " + extension for extension in extensions(part))
 
 
+# [certificates]
 def certificates(data):
     """The DER of each certificate in a file."""
     if data.startswith(b"\x30"):
         return [data]
     return [velkord.PEM2DER_data_format(block) for block in PEM_BLOCK.findall(data)]
+# [/certificates]
 
 
 def main():

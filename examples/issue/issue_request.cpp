@@ -19,6 +19,7 @@ constexpr uint32_t kDnsNameTag = 2;
 // digitalSignature is bit 0, counted from the highest.
 constexpr uint8_t kUses[] = {0x80};
 
+// [request]
 NodePtr Request(std::string_view commonName, const KeyPtr& key) {
   const NodePtr hostName = Write(ASN1_WriteIa5StringFromBytes, View(kHostName));
   const NodePtr extensions =
@@ -30,6 +31,7 @@ NodePtr Request(std::string_view commonName, const KeyPtr& key) {
   return Sign(Sequence(Integer(kVersion1), Name(commonName), KeyInfo(key), Implicit(0, attributes)),
               key);
 }
+// [/request]
 
 int IssueRequest(std::span<char*> arguments) {
   const std::string_view commonName = arguments.size() > 1 ? arguments[1] : kHostName;

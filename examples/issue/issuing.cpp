@@ -45,9 +45,11 @@ NodePtr Algorithm(std::string_view id) {
 
 }  // namespace
 
+// [write]
 NodePtr Write(int32_t (*write)(const uint8_t*, uint32_t, Anybuf**), Bytes content) {
   return Make("write a value", write, content.data(), Length(content));
 }
+// [/write]
 
 NodePtr Set(const NodePtr& element) { return Make("write a SET", ASN1_WriteSet, element.get()); }
 
@@ -70,12 +72,14 @@ NodePtr Integer(uint32_t value) { return Make("write a number", ASN1_WriteIntege
 
 // ASN1_WriteBitStringFromBytes would derive the unused bits from the last byte, which is right for
 // neither a signature nor flags.
+// [bit_string]
 NodePtr BitString(Bytes bits, uint32_t unusedBits) {
   const NodePtr content =
       Make("hold the bits", ASN1_CreateAnybuf, bits.data(), Length(bits), kBitStringType);
   content->unusedBits = unusedBits;
   return Make("write a BIT STRING", ASN1_WriteBitString, content.get());
 }
+// [/bit_string]
 
 NodePtr UtcTime(int64_t time) {
   if (!std::in_range<int32_t>(time)) throw std::runtime_error("the clock is beyond 2038");
@@ -83,6 +87,7 @@ NodePtr UtcTime(int64_t time) {
   return Make("write a time", ASN1_WriteUtcTime, &seconds);
 }
 
+// [object_identifier]
 NodePtr ObjectIdentifier(std::string_view id) {
   std::vector<uint8_t> octets(id.size());
   uint32_t length = 0;
@@ -91,6 +96,7 @@ NodePtr ObjectIdentifier(std::string_view id) {
   }
   return Make("write an object identifier", ASN1_WriteObjectIdFromData, 0, octets.data(), length);
 }
+// [/object_identifier]
 
 NodePtr Name(std::string_view commonName) {
   CheckCommonName(commonName);

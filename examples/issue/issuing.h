@@ -15,12 +15,14 @@ enum Criticality { kCritical, kNotCritical };
 velkord::NodePtr Write(int32_t (*write)(const uint8_t*, uint32_t, Anybuf**),
                        velkord::Bytes content);
 
+// [sequence]
 // A SEQUENCE of nodes and chains, one after the other.
 template <typename... Elements>
 velkord::NodePtr Sequence(Elements... elements) {
   return velkord::Make("write a SEQUENCE", ASN1_WriteSequence,
                        velkord::ChainBuilder(std::move(elements)...).Head());
 }
+// [/sequence]
 
 velkord::NodePtr Set(const velkord::NodePtr& element);
 
