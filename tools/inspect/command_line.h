@@ -10,15 +10,21 @@
 #include <string_view>
 
 // Runs `work` with the arguments and returns the exit status: that of the work, 1 when it throws, 2
-// when there are fewer than `least` arguments or more than `most`. The library reads and writes
-// times as the machine's local time, so the zone is set to UTC.
+// for an option other than --help and --version, or when there are fewer than `least` arguments or
+// more than `most`; "-" alone is no option. The library reads and writes times as the machine's
+// local time, so the zone is set to UTC.
 template <typename Work>
 int RunCommand(int argc, char** argv, std::string_view usage, size_t least, size_t most,
                Work work) {
   const std::span<char*> arguments = std::span(argv, static_cast<size_t>(argc)).subspan(1);
-  if (arguments.size() == 1 && std::string_view(arguments.front()) == "--help") {
-    std::cout << usage;
-    return 0;
+  for (const std::string_view argument : arguments) {
+    if (!argument.starts_with('-') || argument == "-") continue;
+    if (argument == "--help" || argument == "--version") {
+      std::cout << (argument == "--help" ? usage : "Velkord " VELKORD_TOOLS_VERSION "\n");
+      return 0;
+    }
+    std::cerr << argv[0] << ": no option " << argument << '\n' << usage;
+    return 2;
   }
   if (arguments.size() < least || arguments.size() > most) {
     std::cerr << usage;

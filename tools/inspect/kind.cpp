@@ -30,6 +30,7 @@ constexpr Letter kLetters[] = {
     {3, 'b'},     // BIT STRING
     {4, 'o'},     // OCTET STRING
     {6, 'd'},     // OBJECT IDENTIFIER
+    {10, 'e'},    // ENUMERATED
     {16, 's'},    // SEQUENCE
     {23, 't'},    // UTCTime
     {24, 't'},    // GeneralizedTime
@@ -56,9 +57,7 @@ const Kind& KindOfSigned(const Anybuf& signedPart) {
   RefuseKind();
 }
 
-}  // namespace
-
-const Kind& KindOf(Bytes der) {
+const Kind& KindByShape(Bytes der) {
   const SecretNodePtr elements = SplitSecret(der, "split the structure");
   const std::string shape = ShapeOf(elements);
   if (shape.starts_with("ssb")) return KindOfSigned(*elements);
@@ -66,7 +65,25 @@ const Kind& KindOf(Bytes der) {
   if (shape == "d" || shape == "dc") return Named("PKCS#7 message");
   if (shape.starts_with("iso")) return Named("private key");
   if (shape == "iiiiiiiii") return Named("RSA private key");
+  if (shape == "so") return Named("encrypted private key of PKCS#8");
+  if (shape.starts_with("io")) return Named("private key of a curve as SEC 1 has it");
+  if (shape == "is" || shape == "iss") return Named("PKCS#12 file");
+  if (shape == "e" || shape == "ec") return Named("OCSP response");
   if (shape != "ii") RefuseKind();
   const bool isExponent = elements->next->dataLen <= kLongestExponent;
   return isExponent ? Named("RSA public key") : Named("signature");
+}
+
+}  // namespace
+
+const Kind& KindOf(Bytes der, std::string_view label) {
+  try {
+    return KindByShape(der);
+  } catch (const std::exception&) {
+    const auto* named = std::ranges::find(kKinds, label, [](const Kind& kind) {
+      return kind.show == nullptr ? kind.labels[0] : std::string_view();
+    });
+    if (label.empty() || named == std::end(kKinds)) throw;
+    return *named;
+  }
 }

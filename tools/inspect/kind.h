@@ -31,8 +31,8 @@ Show ShowPrivateKeyInfo;
 Show ShowSignature;
 
 struct Kind {
-  std::string_view name;  // What a reader calls one of that kind.
-  Show* show;
+  std::string_view name;       // What a reader calls one of that kind.
+  Show* show;                  // Null where the kind is known, but not read.
   std::string_view labels[2];  // Those that a PEM block of that kind usually has.
 };
 
@@ -46,10 +46,16 @@ inline constexpr Kind kKinds[] = {
     {"public key", ShowPublicKeyInfo, {"PUBLIC KEY"}},
     {"private key", ShowPrivateKeyInfo, {"PRIVATE KEY"}},
     {"signature", ShowSignature, {}},
+    {"encrypted private key of PKCS#8", nullptr, {"ENCRYPTED PRIVATE KEY"}},
+    {"private key of a curve as SEC 1 has it", nullptr, {"EC PRIVATE KEY"}},
+    {"set of curve parameters", nullptr, {"EC PARAMETERS"}},
+    {"certificate with its trust settings", nullptr, {"TRUSTED CERTIFICATE"}},
+    {"PKCS#12 file", nullptr, {"PKCS12"}},
+    {"OCSP response", nullptr, {"OCSP RESPONSE"}},
 };
 
-// By structure alone: one of the kinds above. Throws std::runtime_error when the DER is malformed
-// or of no such kind.
-const Kind& KindOf(velkord::Bytes der);
+// By structure: one of the kinds above. What is malformed or of no such kind is what its label says
+// if that kind is not read, and throws std::runtime_error if not.
+const Kind& KindOf(velkord::Bytes der, std::string_view label);
 
 #endif  // VELKORD_TOOLS_INSPECT_KIND_H_

@@ -18,11 +18,13 @@ namespace {
 
 constexpr std::string_view kUsage =
     "usage: inspect FILE...\n"
+    "       inspect --help | --version\n"
     "Tells what each PEM block or DER file holds and shows it: certificate, revocation list,\n"
-    "PKCS#10 request, PKCS#7 message, key or signature. Private values are not shown. What is\n"
-    "signed is written again from its decoded records, lists and requests around their signed\n"
-    "part as it was; a line tells whether its own record gives the same bytes. The exit status\n"
-    "is 0 when all blocks were read and all that was written came back as the same bytes.\n";
+    "PKCS#10 request, PKCS#7 message, key or signature; the file - is standard input. Private\n"
+    "values are not shown. What is signed is written again from its decoded records, lists and\n"
+    "requests around their signed part as it was; a line tells whether its own record gives the\n"
+    "same bytes. The exit status is 0 when all blocks were read and all that was written came\n"
+    "back as the same bytes, 1 when not, 2 when the options are wrong.\n";
 
 constexpr uint8_t kSequenceOctet = 0x30;
 
@@ -42,7 +44,10 @@ void Report(Tally& tally, std::string_view place, std::string_view problem) {
 // The kind is told by the content; a label that does not go with it is worth a remark and no more.
 // A file of DER has none.
 void InspectDer(Bytes der, std::string_view place, std::string_view label, Tally& tally) {
-  const Kind& kind = KindOf(der);
+  const Kind& kind = KindOf(der, label);
+  if (kind.show == nullptr) {
+    throw std::runtime_error(std::string(kind.name) + ", which is not read");
+  }
   std::ostringstream text;
   const NodePtr rebuilt = kind.show(der, text);
   ++tally.read;
@@ -71,7 +76,7 @@ void InspectBlock(const PemBlock& block, const std::string& name, Tally& tally) 
 
 void InspectFile(const std::string& name, Tally& tally) {
   try {
-    const SecretBytes content = ReadFile(name.c_str());
+    const SecretBytes content = ReadFile(name);
     const auto blocks =
         FindPemBlocks({reinterpret_cast<const char*>(content.data()), content.size()});
     size_t number = 0;

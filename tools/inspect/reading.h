@@ -2,6 +2,7 @@
 #ifndef VELKORD_TOOLS_INSPECT_READING_H_
 #define VELKORD_TOOLS_INSPECT_READING_H_
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -9,7 +10,8 @@
 
 // All throw std::runtime_error telling what failed.
 
-SecretBytes ReadFile(const char* name);
+// The name "-" is standard input.
+SecretBytes ReadFile(const std::string& name);
 
 // Views into the text that it was found in.
 struct PemBlock {

@@ -52,17 +52,16 @@ constexpr std::string_view kKnownObjectIds[] = {
     "2.5.29.36 policyConstraints", "2.5.29.37 extKeyUsage", "2.5.29.46 freshestCRL",
     "2.5.29.54 inhibitAnyPolicy"};
 
-bool IsBetween(uint32_t code, uint32_t first, uint32_t last) {
-  return first <= code && code <= last;
-}
-
-// Characters that move the cursor, end the line or reorder the text around them would let a
-// certificate forge what its reader sees.
-bool IsShown(uint32_t code) {
-  if (code < 0x20 || IsBetween(code, 0x7F, 0x9F) || code == '\\') return false;
-  if (IsBetween(code, 0x200E, 0x200F) || IsBetween(code, 0x2028, 0x202E)) return false;
-  return !IsBetween(code, 0x2066, 0x2069);
-}
+// Characters that move the cursor, end the line, reorder the text around them or are invisible
+// would let a certificate forge what its reader sees. The backslash starts an escape.
+struct Range {
+  uint32_t first;
+  uint32_t last;
+};
+constexpr Range kEscaped[] = {
+    {0, 0x1F},        {'\\', '\\'},     {0x7F, 0x9F},     {0xAD, 0xAD},     {0x200B, 0x200B},
+    {0x200E, 0x200F}, {0x2028, 0x202E}, {0x2066, 0x2069}, {0xFEFF, 0xFEFF},
+};
 
 // Empty when the octets are no identifier or when an arc needs more than 64 bits.
 std::string DottedText(Bytes octets) {
@@ -93,7 +92,7 @@ size_t ReadCharacter(Bytes text, uint32_t& code) {
   const auto available = static_cast<int32_t>(std::min<size_t>(text.size(), 6));
   uint32_t read = 0;
   const int32_t size = utf8ToUni(text.data(), available, &read);
-  if (size <= 0 || read > 0x10FFFF || IsBetween(read, 0xD800, 0xDFFF)) return 0;
+  if (size <= 0 || read > 0x10FFFF || (read >= 0xD800 && read <= 0xDFFF)) return 0;
   code = read;
   return static_cast<size_t>(size);
 }
@@ -104,7 +103,9 @@ std::string EscapedText(Bytes text) {
     uint32_t code = 0;
     const size_t size = ReadCharacter(text, code);
     const Bytes form = text.first(std::max<size_t>(size, 1));
-    if (size != 0 && IsShown(code)) {
+    const bool isEscaped = std::ranges::any_of(
+        kEscaped, [=](Range range) { return range.first <= code && code <= range.last; });
+    if (size != 0 && !isEscaped) {
       escaped.append(form.begin(), form.end());
     } else {
       for (const uint8_t byte : form) escaped += "\\x" + HexText({&byte, 1});

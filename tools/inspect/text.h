@@ -11,7 +11,8 @@
 // is none or the bytes are no Unicode character.
 size_t ReadCharacter(velkord::Bytes text, uint32_t& code);
 
-// The text with each control character, each byte that is no UTF-8, and the backslash as "\xNN".
+// The text with each control or invisible character, each byte that is no UTF-8, and the backslash
+// as "\xNN".
 std::string EscapedText(velkord::Bytes text);
 
 std::string HexText(velkord::Bytes bytes);
