@@ -1,24 +1,24 @@
-// Certificates of version 2 and 3.
+// Certificates.
 #include <system_error>
 
+#include "comparison.h"
 #include "kind.h"
 #include "structures.h"
 #include "text.h"
 
-using velkord::Bytes, velkord::Check, velkord::Errc, velkord::Handle, velkord::Length,
+using velkord::Bytes, velkord::ChainBuilder, velkord::Check, velkord::Errc, velkord::Length,
     velkord::Make, velkord::NodePtr, velkord::Out;
 
 namespace {
 
-Handle<TBSCertificate> DecodeSignedPart(const Anybuf& source) {
-  // Version 1 is the default value, so its element is left out and the serial number comes first,
-  // where the decoder looks for the version.
-  const NodePtr elements = Make("split the signed part", ASN1_ReadSequence, &source);
-  if (elements == nullptr || elements->dataType == kIntegerTag) {
-    throw std::system_error(Errc::kWrongTag,
-                            "decode the signed part, which has no version element (version 1)");
-  }
-  return Make("decode the signed part", ASN1_TBSCertificateDecode, &source);
+// The element of version 1. It is the default value, so DER leaves it out, but the decoder needs
+// it.
+constexpr uint8_t kVersion1[] = {0xA0, 0x03, 0x02, 0x01, 0x00};
+
+NodePtr WithVersion1(const Anybuf& signedPart) {
+  const ChainBuilder elements(Element(kVersion1, "make version 1"),
+                              SplitPair(signedPart, "split the signed part"));
+  return Make("put version 1 in front", ASN1_WriteSequence, elements.Head());
 }
 
 uint32_t ReadVersion(const TBSCertificate& tbs) {
@@ -35,7 +35,12 @@ uint32_t ReadVersion(const TBSCertificate& tbs) {
 NodePtr ShowCertificate(Bytes der, std::ostream& out) {
   const auto certificate =
       Make("decode the certificate", ASN1_CertificateDecode, der.data(), Length(der));
-  const auto tbs = DecodeSignedPart(*certificate->tbsCertificate);
+  const Anybuf* source = certificate->tbsCertificate;
+  // KindOf found a version or a serial number in front.
+  const bool hasVersion = SplitPair(*source, "split the signed part")->dataType != kIntegerTag;
+  const NodePtr completed = hasVersion ? nullptr : WithVersion1(*source);
+  const auto tbs = Make("decode the signed part", ASN1_TBSCertificateDecode,
+                        hasVersion ? source : completed.get());
   out << "  version: " << uint64_t{ReadVersion(*tbs)} + 1 << "\n  subject:\n";
   PutName(out, *tbs->subject);
   out << "  issuer:\n";
@@ -54,7 +59,8 @@ NodePtr ShowCertificate(Bytes der, std::ostream& out) {
     PutExtensions(out, ReadExtensions(*list), "    ");
     Check(ASN1_TBSCertificateSetExtensions(tbs.get(), list.get()), "set the extensions");
   }
-  const NodePtr signedPart = Make("write the signed part", ASN1_TBSCertificateWriteData, tbs.get());
+  NodePtr signedPart = Make("write the signed part", ASN1_TBSCertificateWriteData, tbs.get());
+  if (!hasVersion) signedPart = WithoutFirst(*signedPart);
   Check(ASN1_CertificateSetTbsCertificate(certificate.get(), signedPart.get()),
         "set the signed part");
   return Make("write the certificate", ASN1_CertificateWriteData, certificate.get());

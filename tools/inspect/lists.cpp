@@ -1,6 +1,7 @@
 // Revocation lists. The library reads their times as local time: the program's zone is UTC.
 #include <algorithm>
 
+#include "comparison.h"
 #include "kind.h"
 #include "structures.h"
 #include "text.h"
@@ -50,13 +51,11 @@ NodePtr ShowEntry(const Anybuf& element, std::ostream& out) {
 // What comes of the signed part when its record is written again. It is different where nextUpdate
 // has another form than thisUpdate, which it then takes.
 std::string_view SignedPartRemark(const Anybuf& original, const Anybuf& rebuilt) {
-  const bool same = SameBytes(rebuilt, View(original));
-  const NodePtr elements = SplitPair(original, "split the signed part");
-  if (same || elements->dataType != kIntegerTag) return Comparison(same);
-  const NodePtr shortened = Make("shorten the signed part", ASN1_WriteSequence, elements->next);
-  return SameBytes(rebuilt, View(*shortened))
-             ? "identical but for its version, which is written only when it is the number 2"
-             : Comparison(false);
+  const bool hasVersion = SplitPair(original, "split the signed part")->dataType == kIntegerTag;
+  if (hasVersion && SameBytes(rebuilt, View(*WithoutFirst(original)))) {
+    return "identical but for its version, which is written only when it is the number 2";
+  }
+  return Comparison(rebuilt, View(original));
 }
 
 }  // namespace

@@ -7,9 +7,9 @@
 #include <string>
 
 #include "command_line.h"
+#include "comparison.h"
 #include "kind.h"
 #include "reading.h"
-#include "structures.h"
 #include "text.h"
 
 using velkord::Bytes, velkord::NodePtr, velkord::View;
@@ -54,9 +54,8 @@ void InspectDer(Bytes der, std::string_view place, std::string_view label, Tally
   std::cout << place << ": " << kind.name << '\n' << text.str();
   if (rebuilt != nullptr) {
     ++tally.rebuilt;
-    const bool identical = SameBytes(*rebuilt, der);
-    if (identical) ++tally.identical;
-    std::cout << "  rebuilt: " << Comparison(identical) << '\n';
+    if (SameBytes(*rebuilt, der)) ++tally.identical;
+    std::cout << "  rebuilt: " << Comparison(*rebuilt, der) << '\n';
   }
   if (!label.empty() && std::ranges::find(kind.labels, label) == std::end(kind.labels)) {
     std::cout << "  remark: its label is \"" << EscapedText(View(label)) << "\"\n";

@@ -1,4 +1,5 @@
 // PKCS#7 messages.
+#include "comparison.h"
 #include "kind.h"
 #include "structures.h"
 
@@ -18,6 +19,6 @@ NodePtr ShowMessage(Bytes der, std::ostream& out) {
     Check(ASN1_PKCS7_SetContent(message.get(), from->content), kRebuild);
   }
   const NodePtr rebuilt = Make(kRebuild, ASN1_PKCS7_WriteData, message.get());
-  out << "  put together again: " << Comparison(SameBytes(*rebuilt, der)) << '\n';
+  out << "  put together again: " << Comparison(*rebuilt, der) << '\n';
   return nullptr;
 }

@@ -1,4 +1,5 @@
 // PKCS#10 certification requests.
+#include "comparison.h"
 #include "kind.h"
 #include "structures.h"
 
@@ -28,8 +29,7 @@ std::string_view SignedPartRemark(const Anybuf& original, const PKCS10& info) {
   if (info.attributes == nullptr) {
     return "no, since the element of its attributes is missing and would be written";
   }
-  const NodePtr written = Make("write the signed part", ASN1_PKCS10WriteData, &info);
-  return Comparison(SameBytes(*written, View(original)));
+  return Comparison(*Make("write the signed part", ASN1_PKCS10WriteData, &info), View(original));
 }
 
 }  // namespace

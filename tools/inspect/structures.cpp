@@ -1,6 +1,5 @@
 #include "structures.h"
 
-#include <algorithm>
 #include <system_error>
 
 #include "text.h"
@@ -13,28 +12,17 @@ namespace {
 // Reduced tags.
 constexpr uint32_t kObjectIdTag = 6;
 constexpr uint32_t kUtcTimeTag = 23;
-constexpr uint32_t kGeneralizedTimeTag = 24;
-constexpr uint32_t kBmpStringTag = 30;
 
-std::vector<uint8_t> StringContent(const Anybuf& node, const char* step) {
-  std::vector<uint8_t> content = Content(node, step);
-  if (node.dataType != kBmpStringTag) return content;
-  // Up to three bytes of UTF-8 for each character of two bytes.
-  std::vector<uint8_t> text(content.size() / 2 * 3);
-  size_t size = 0;
-  for (size_t at = 0; at + 1 < content.size(); at += 2) {
-    const uint32_t code = uint32_t{content[at]} << 8 | content[at + 1];
-    size += static_cast<size_t>(uniToUTF8(text.data() + size, 3, code));
+// A string by its type; of other types the content as it stands.
+std::string ValueText(const Anybuf& node, const char* step) {
+  try {
+    return EscapedText(View(velkord::Utf8Text(node)));
+  } catch (const std::system_error&) {
+    return EscapedText(Content(node, step));
   }
-  text.resize(size);
-  return text;
 }
 
 }  // namespace
-
-bool SameBytes(const Anybuf& node, Bytes other) { return std::ranges::equal(View(node), other); }
-
-std::string_view Comparison(bool same) { return same ? "identical" : "different"; }
 
 std::vector<uint8_t> Content(const Anybuf& node, const char* step) {
   std::vector<uint8_t> content(node.dataLen);
@@ -61,21 +49,15 @@ std::string IdText(const Anybuf& node, const char* step) {
   return ObjectIdText(Content(node, step));
 }
 
-// Read from the text itself: the library's own reader returns local time and ends in 2038.
 std::string TimeText(const Anybuf& node, const char* step) {
-  const bool isUtcTime = node.dataType == kUtcTimeTag;
-  if (!isUtcTime && node.dataType != kGeneralizedTimeTag) {
-    throw std::system_error(Errc::kWrongTag, step);
+  std::string text = EscapedText(Content(node, step));
+  try {
+    const bool is1900s =
+        velkord::ReadTime(node) < std::chrono::sys_days(std::chrono::year(2000) / 1 / 1);
+    if (node.dataType == kUtcTimeTag) text.insert(0, is1900s ? "19" : "20");
+  } catch (const std::system_error&) {
+    return text + ", which is not a time in DER";
   }
-  const std::vector<uint8_t> content = Content(node, step);
-  std::string text(content.begin(), content.end());
-  const size_t digits = isUtcTime ? 12 : 14;
-  if (text.size() != digits + 1 || text.back() != 'Z' ||
-      text.find_first_not_of("0123456789") != digits) {
-    throw std::system_error(Errc::kBadTime, step);
-  }
-  // Two-digit years run from 1950 to 2049.
-  if (isUtcTime) text.insert(0, text[0] < '5' ? "20" : "19");
   return text.substr(0, 4) + '-' + text.substr(4, 2) + '-' + text.substr(6, 2) + ' ' +
          text.substr(8, 2) + ':' + text.substr(10, 2) + ':' + text.substr(12, 2) + " UTC";
 }
@@ -101,7 +83,7 @@ void PutName(std::ostream& out, const Anybuf& name) {
     for (const Anybuf& attribute : Chain(attributes.get())) {
       const NodePtr type = SplitPair(attribute, "split an attribute of a name");
       out << "    " << IdText(*type, "read the type of an attribute of a name") << ": "
-          << EscapedText(StringContent(*type->next, "read an attribute of a name")) << '\n';
+          << ValueText(*type->next, "read an attribute of a name") << '\n';
     }
   }
 }

@@ -12,11 +12,6 @@
 
 inline constexpr uint32_t kIntegerTag = 2;  // Reduced.
 
-bool SameBytes(const Anybuf& node, velkord::Bytes other);
-
-// "identical" or "different".
-std::string_view Comparison(bool same);
-
 // The content of a TLV node: of a BIT STRING without its unused-bits octet, of an INTEGER without
 // the zero octet that only keeps it positive.
 std::vector<uint8_t> Content(const Anybuf& node, const char* step);
@@ -30,6 +25,7 @@ velkord::NodePtr SplitPair(const Anybuf& sequence, const char* step);
 // The text of an OBJECT IDENTIFIER node, as ObjectIdText writes it.
 std::string IdText(const Anybuf& node, const char* step);
 
+// In UTC; a text that is not that of a time comes as it is, with a remark.
 std::string TimeText(const Anybuf& node, const char* step);
 
 std::string AlgorithmText(const Anybuf& algorithm);

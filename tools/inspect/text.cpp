@@ -1,8 +1,8 @@
 #include "text.h"
 
 #include <algorithm>
-#include <limits>
 #include <string_view>
+#include <system_error>
 
 using velkord::Bytes;
 
@@ -63,28 +63,6 @@ constexpr Range kEscaped[] = {
     {0x200E, 0x200F}, {0x2028, 0x202E}, {0x2066, 0x2069}, {0xFEFF, 0xFEFF},
 };
 
-// Empty when the octets are no identifier or when an arc needs more than 64 bits.
-std::string DottedText(Bytes octets) {
-  std::string text;
-  uint64_t arc = 0;
-  bool arcContinues = false;
-  for (const uint8_t octet : octets) {
-    if (arc > std::numeric_limits<uint64_t>::max() >> 7) return {};
-    arc = arc << 7 | (octet & 0x7F);
-    arcContinues = (octet & 0x80) != 0;
-    if (arcContinues) continue;
-    // The first two arcs share a number, and the first of them is at most 2.
-    if (text.empty()) {
-      const uint64_t first = std::min<uint64_t>(arc / 40, 2);
-      text = std::to_string(first);
-      arc -= first * 40;
-    }
-    text += '.' + std::to_string(arc);
-    arc = 0;
-  }
-  return arcContinues ? std::string() : text;
-}
-
 }  // namespace
 
 size_t ReadCharacter(Bytes text, uint32_t& code) {
@@ -126,8 +104,12 @@ std::string HexText(Bytes bytes) {
 }
 
 std::string ObjectIdText(Bytes octets) {
-  const std::string text = DottedText(octets);
-  if (text.empty()) return "octets " + HexText(octets);
+  std::string text;
+  try {
+    text = velkord::ObjectIdText(octets);
+  } catch (const std::system_error&) {
+    return "octets " + HexText(octets);
+  }
   const auto* known = std::ranges::find_if(
       kKnownObjectIds, [&](std::string_view entry) { return entry.starts_with(text + ' '); });
   return known == std::end(kKnownObjectIds) ? text : std::string(*known);
