@@ -1,4 +1,4 @@
-// Revocation lists. The library reads their times as local time: the program's zone is UTC.
+// Revocation lists.
 #include <algorithm>
 
 #include "comparison.h"
@@ -6,8 +6,8 @@
 #include "structures.h"
 #include "text.h"
 
-using velkord::Bytes, velkord::Chain, velkord::ChainBuilder, velkord::Check, velkord::Length,
-    velkord::Make, velkord::NodePtr, velkord::View;
+using velkord::Bytes, velkord::Chain, velkord::ChainBuilder, velkord::Check, velkord::Handle,
+    velkord::Length, velkord::Make, velkord::NodePtr, velkord::Out, velkord::View;
 
 namespace {
 
@@ -17,11 +17,6 @@ constexpr std::string_view kReasons[] = {
     "superseded",    "cessationOfOperation", "certificateHold", "",
     "removeFromCRL", "privilegeWithdrawn",   "aACompromise",
 };
-
-// The record holds seconds, which were read as the local time that this writes.
-std::string SecondsText(int32_t seconds, const char* step) {
-  return TimeText(*Make(step, ASN1_WriteGeneralizedTime, &seconds), step);
-}
 
 // Empty when no extension of the entry is a reason code.
 std::string ReasonText(const std::vector<Extension>& extensions) {
@@ -48,14 +43,23 @@ NodePtr ShowEntry(const Anybuf& element, std::ostream& out) {
   return Make("write an entry", ASN1_CRL_RevokedCertificateWriteData, entry.get());
 }
 
-// What comes of the signed part when its record is written again. It is different where nextUpdate
-// has another form than thisUpdate, which it then takes.
-std::string_view SignedPartRemark(const Anybuf& original, const Anybuf& rebuilt) {
+// What comes of the signed part when its record is written again, with its entries as they were
+// written. It is different where nextUpdate has another form than thisUpdate, which it then takes.
+std::string SignedPartRemark(const Anybuf& original, const Anybuf* entries) {
+  Handle<TbsCertList> record;
+  const int32_t code = ASN1_CRL_TbsCertListDecode(original.data, original.dataLen, Out(record));
+  if (code != VELKORD_OK)
+    return "no, its record cannot be decoded: " + velkord::ToErrorCode(code).message();
+  if (entries != nullptr) {
+    Check(ASN1_CRL_TbsCertListSetRevokedCertificates(record.get(), entries), "set the entries");
+  }
+  const NodePtr rebuilt =
+      Make("write the signed part", ASN1_CRL_TbsCertListWriteData, record.get());
   const bool hasVersion = SplitPair(original, "split the signed part")->dataType == kIntegerTag;
-  if (hasVersion && SameBytes(rebuilt, View(*WithoutFirst(original)))) {
+  if (hasVersion && SameBytes(*rebuilt, View(*WithoutFirst(original)))) {
     return "identical but for its version, which is written only when it is the number 2";
   }
-  return Comparison(rebuilt, View(original));
+  return std::string(Comparison(*rebuilt, View(original)));
 }
 
 }  // namespace
@@ -64,34 +68,43 @@ NodePtr ShowList(Bytes der, std::ostream& out) {
   const auto list =
       Make("decode the list", ASN1_CRL_CertificateListDecode, der.data(), Length(der));
   const Anybuf& signedPart = *list->tbsCertList;
-  const auto tbs = Make("decode the signed part", ASN1_CRL_TbsCertListDecode, signedPart.data,
-                        signedPart.dataLen);
-  out << "  version: " << uint64_t{tbs->version} + 1 << "\n  issuer:\n";
-  PutName(out, *tbs->issuer);
-  out << "  this update: " << SecondsText(tbs->thisUpdate, "write thisUpdate") << '\n';
-  if (tbs->hasNextUpdate == 1) {
-    out << "  next update: " << SecondsText(tbs->nextUpdate, "write nextUpdate") << '\n';
+  // Shown by its elements, since its record holds no time after 2038. KindOf found those up to
+  // thisUpdate.
+  const NodePtr elements = SplitPair(signedPart, "split the signed part");
+  const Anybuf* element = elements.get();
+  uint32_t version = 0;
+  if (element->dataType == kIntegerTag) {
+    Check(ASN1_ReadInteger(element, &version), "read the version");
+    element = element->next;
+  }
+  const Anybuf& issuer = *element->next;
+  out << "  version: " << uint64_t{version} + 1 << "\n  issuer:\n";
+  PutName(out, issuer);
+  out << "  this update: " << TimeText(*issuer.next, "read thisUpdate") << '\n';
+  element = issuer.next->next;
+  if (element != nullptr && IsTime(*element)) {
+    out << "  next update: " << TimeText(*element, "read nextUpdate") << '\n';
+    element = element->next;
   }
   NodePtr entries;
-  if (tbs->hasRevokedCertificates == 1) {
-    entries = Make("split the entries", ASN1_ReadSequence, tbs->revokedCertificates);
+  const bool hasEntries = element != nullptr && element->dataType == kSequenceTag;
+  if (hasEntries) {
+    entries = Make("split the entries", ASN1_ReadSequence, element);
+    element = element->next;
   }
   out << "  signature algorithm: " << AlgorithmText(*list->signatureAlgorithm)
       << "\n  entries: " << std::ranges::distance(Chain(entries.get())) << '\n';
   ChainBuilder written;
   for (const Anybuf& entry : Chain(entries.get())) written.Append(ShowEntry(entry, out));
-  if (tbs->hasRevokedCertificates == 1) {
-    entries = Make("write the entries", ASN1_WriteSequence, written.Head());
-    Check(ASN1_CRL_TbsCertListSetRevokedCertificates(tbs.get(), entries.get()), "set the entries");
-  }
-  if (tbs->hasCrlExtensions == 1) {
+  if (hasEntries) entries = Make("write the entries", ASN1_WriteSequence, written.Head());
+  if (element != nullptr) {
+    NodePtr extensions;
+    uint32_t tag = 0;
+    Check(ASN1_ReadExplicit(element, Out(extensions), &tag), "open the extensions");
     out << "  extensions:\n";
-    PutExtensions(out, ReadExtensions(*tbs->crlExtensions), "    ");
+    PutExtensions(out, ReadExtensions(*extensions), "    ");
   }
-  out << "  signed part rebuilt: "
-      << SignedPartRemark(signedPart,
-                          *Make("write the signed part", ASN1_CRL_TbsCertListWriteData, tbs.get()))
-      << '\n';
+  out << "  signed part rebuilt: " << SignedPartRemark(signedPart, entries.get()) << '\n';
   // Around the signed part as it was signed, since the library does not write every version of it.
   return Make("write the list", ASN1_CRL_CertificateListWriteData, list.get());
 }

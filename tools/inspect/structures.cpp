@@ -12,6 +12,7 @@ namespace {
 // Reduced tags.
 constexpr uint32_t kObjectIdTag = 6;
 constexpr uint32_t kUtcTimeTag = 23;
+constexpr uint32_t kGeneralizedTimeTag = 24;
 
 // A string by its type; of other types the content as it stands.
 std::string ValueText(const Anybuf& node, const char* step) {
@@ -47,6 +48,10 @@ NodePtr SplitPair(const Anybuf& sequence, const char* step) {
 std::string IdText(const Anybuf& node, const char* step) {
   if (node.dataType != kObjectIdTag) throw std::system_error(Errc::kWrongTag, step);
   return ObjectIdText(Content(node, step));
+}
+
+bool IsTime(const Anybuf& node) {
+  return node.dataType == kUtcTimeTag || node.dataType == kGeneralizedTimeTag;
 }
 
 std::string TimeText(const Anybuf& node, const char* step) {

@@ -10,7 +10,9 @@
 
 #include "velkord.hpp"
 
-inline constexpr uint32_t kIntegerTag = 2;  // Reduced.
+// Reduced tags.
+inline constexpr uint32_t kIntegerTag = 2;
+inline constexpr uint32_t kSequenceTag = 16;
 
 // The content of a TLV node: of a BIT STRING without its unused-bits octet, of an INTEGER without
 // the zero octet that only keeps it positive.
@@ -24,6 +26,8 @@ velkord::NodePtr SplitPair(const Anybuf& sequence, const char* step);
 
 // The text of an OBJECT IDENTIFIER node, as ObjectIdText writes it.
 std::string IdText(const Anybuf& node, const char* step);
+
+bool IsTime(const Anybuf& node);
 
 // In UTC; a text that is not that of a time comes as it is, with a remark.
 std::string TimeText(const Anybuf& node, const char* step);
