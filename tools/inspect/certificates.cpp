@@ -7,7 +7,7 @@
 #include "text.h"
 
 using velkord::Bytes, velkord::ChainBuilder, velkord::Check, velkord::Errc, velkord::Length,
-    velkord::Make, velkord::NodePtr, velkord::Out;
+    velkord::Make, velkord::NodePtr, velkord::View;
 
 namespace {
 
@@ -21,15 +21,6 @@ NodePtr WithVersion1(const Anybuf& signedPart) {
   return Make("put version 1 in front", ASN1_WriteSequence, elements.Head());
 }
 
-uint32_t ReadVersion(const TBSCertificate& tbs) {
-  NodePtr number;
-  uint32_t tag = 0;
-  uint32_t version = 0;
-  Check(ASN1_ReadExplicit(tbs.versionNode, Out(number), &tag), "open the version");
-  Check(ASN1_ReadInteger(number.get(), &version), "read the version");
-  return version;
-}
-
 }  // namespace
 
 NodePtr ShowCertificate(Bytes der, std::ostream& out) {
@@ -41,7 +32,8 @@ NodePtr ShowCertificate(Bytes der, std::ostream& out) {
   const NodePtr completed = hasVersion ? nullptr : WithVersion1(*source);
   const auto tbs = Make("decode the signed part", ASN1_TBSCertificateDecode,
                         hasVersion ? source : completed.get());
-  out << "  version: " << uint64_t{ReadVersion(*tbs)} + 1 << "\n  subject:\n";
+  const NodePtr version = Element(velkord::Content(View(*tbs->versionNode)), "open the version");
+  out << "  version: " << Version(*version) << "\n  subject:\n";
   PutName(out, *tbs->subject);
   out << "  issuer:\n";
   PutName(out, *tbs->issuer);

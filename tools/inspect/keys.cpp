@@ -9,8 +9,8 @@
 #include "structures.h"
 #include "text.h"
 
-using velkord::Bytes, velkord::Check, velkord::Errc, velkord::Length, velkord::NodePtr,
-    velkord::Out;
+using velkord::Bytes, velkord::Chain, velkord::Check, velkord::Errc, velkord::Length,
+    velkord::NodePtr, velkord::Out, velkord::View;
 
 namespace {
 
@@ -26,22 +26,12 @@ constexpr std::string_view kCurvesOf256Bits[] = {
 constexpr uint8_t kUncompressed = 4;
 constexpr size_t kPointSize = 1 + sizeof(EccPubkey::x) + sizeof(EccPubkey::y);
 
-// The decoder of RSA private keys tells a PrivateKeyInfo by this size of the algorithm's content.
-constexpr size_t kRsaAlgorithmSize = 13;
-
 void PutRsaNumbers(std::ostream& out, Bytes modulus, Bytes exponent) {
   while (!modulus.empty() && modulus.front() == 0) modulus = modulus.subspan(1);
   if (modulus.empty()) throw std::system_error(Errc::kFailure, "read the modulus, which is 0");
   out << "  bits: " << modulus.size() * 8 - static_cast<size_t>(std::countl_zero(modulus.front()))
       << "\n  modulus: " << HexText(modulus) << "\n  public exponent: " << HexText(exponent)
       << '\n';
-}
-
-// The decoder puts a number at its field's start. Both numbers of a key are odd, so that the zero
-// bytes after them are no part of them.
-Bytes FieldNumber(Bytes field) {
-  while (!field.empty() && field.back() == 0) field = field.first(field.size() - 1);
-  return field;
 }
 
 // Returns the algorithm and the curve, which is empty when the parameter is missing, NULL or a
@@ -74,10 +64,14 @@ NodePtr ShowRsaPublicKey(Bytes der, std::ostream& out) {
 }
 
 NodePtr ShowRsaPrivateKey(Bytes der, std::ostream& out) {
-  Secret<ZantPrivateKey> key{};
-  Check(ZantDecodePrivateKey(&key, der.data(), Length<int32_t>(der)),
-        "read the private key of at most 2048 bits");
-  PutRsaNumbers(out, FieldNumber(key.modulus), FieldNumber(key.publicExponent));
+  // By its elements: the library's record holds keys of at most 2048 bits.
+  const SecretNodePtr version = SplitSecret(der, "split the private key");
+  if (std::ranges::distance(Chain(version.get())) < 3) {
+    throw std::system_error(Errc::kFailure, "split the private key");
+  }
+  const Anybuf& modulus = *version->next;
+  PutRsaNumbers(out, Content(modulus, "read the modulus"),
+                Content(*modulus.next, "read the public exponent"));
   out << "  private values: not shown\n";
   return nullptr;
 }
@@ -109,12 +103,7 @@ NodePtr ShowPrivateKeyInfo(Bytes der, std::ostream& out) {
   const SecretNodePtr version = SplitSecret(der, "split the key info");
   const Anybuf& algorithm = *version->next;
   const auto [id, curve] = ShowKeyAlgorithm(algorithm, out);
-  if (id == kRsaEncryption) {
-    if (Content(algorithm, "read the key algorithm").size() != kRsaAlgorithmSize) {
-      throw std::system_error(Errc::kFailure, "read the private key, whose algorithm has no NULL");
-    }
-    return ShowRsaPrivateKey(der, out);
-  }
+  if (id == kRsaEncryption) return ShowRsaPrivateKey(velkord::Content(View(*algorithm.next)), out);
   if (id != "1.2.840.10045.2.1 ecPublicKey" ||
       std::ranges::find(kCurvesOf256Bits, curve) == std::end(kCurvesOf256Bits)) {
     out << "  private value: not read\n";

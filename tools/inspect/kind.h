@@ -34,24 +34,28 @@ struct Kind {
   std::string_view name;       // What a reader calls one of that kind.
   Show* show;                  // Null where the kind is known, but not read.
   std::string_view labels[2];  // Those that a PEM block of that kind usually has.
+  std::string_view shapes[2];  // How the letters of its elements begin, as ShapeOf puts them.
 };
 
 inline constexpr Kind kKinds[] = {
-    {"certificate", ShowCertificate, {"CERTIFICATE", "X509 CERTIFICATE"}},
-    {"revocation list", ShowList, {"X509 CRL"}},
-    {"certification request", ShowRequest, {"CERTIFICATE REQUEST", "NEW CERTIFICATE REQUEST"}},
-    {"PKCS#7 message", ShowMessage, {"PKCS7", "CMS"}},
-    {"RSA public key", ShowRsaPublicKey, {"RSA PUBLIC KEY"}},
-    {"RSA private key", ShowRsaPrivateKey, {"RSA PRIVATE KEY"}},
-    {"public key", ShowPublicKeyInfo, {"PUBLIC KEY"}},
-    {"private key", ShowPrivateKeyInfo, {"PRIVATE KEY"}},
-    {"signature", ShowSignature, {}},
-    {"encrypted private key of PKCS#8", nullptr, {"ENCRYPTED PRIVATE KEY"}},
-    {"private key of a curve as SEC 1 has it", nullptr, {"EC PRIVATE KEY"}},
-    {"set of curve parameters", nullptr, {"EC PARAMETERS"}},
-    {"certificate with its trust settings", nullptr, {"TRUSTED CERTIFICATE"}},
-    {"PKCS#12 file", nullptr, {"PKCS12"}},
-    {"OCSP response", nullptr, {"OCSP RESPONSE"}},
+    {"certificate", ShowCertificate, {"CERTIFICATE", "X509 CERTIFICATE"}, {"(cis", "(isss"}},
+    {"revocation list", ShowList, {"X509 CRL"}, {"(sst", "(isst"}},
+    {"certification request",
+     ShowRequest,
+     {"CERTIFICATE REQUEST", "NEW CERTIFICATE REQUEST"},
+     {"(iss.", "(issc"}},
+    {"PKCS#7 message", ShowMessage, {"PKCS7", "CMS"}, {"d.", "dc."}},
+    {"RSA public key", ShowRsaPublicKey, {"RSA PUBLIC KEY"}, {"ie."}},
+    {"RSA private key", ShowRsaPrivateKey, {"RSA PRIVATE KEY"}, {"iiiiiiiii."}},
+    {"public key", ShowPublicKeyInfo, {"PUBLIC KEY"}, {"sb."}},
+    {"private key", ShowPrivateKeyInfo, {"PRIVATE KEY"}, {"iso"}},
+    {"signature", ShowSignature, {}, {"ii."}},
+    {"encrypted private key of PKCS#8", nullptr, {"ENCRYPTED PRIVATE KEY"}, {"so."}},
+    {"private key of a curve as SEC 1 has it", nullptr, {"EC PRIVATE KEY"}, {"io"}},
+    {"set of curve parameters", nullptr, {"EC PARAMETERS"}, {}},
+    {"certificate with its trust settings", nullptr, {"TRUSTED CERTIFICATE"}, {}},
+    {"PKCS#12 file", nullptr, {"PKCS12"}, {"is.", "iss."}},
+    {"OCSP response", nullptr, {"OCSP RESPONSE"}, {"n.", "nc."}},
 };
 
 // By structure: one of the kinds above. What is malformed or of no such kind is what its label says

@@ -72,17 +72,15 @@ NodePtr ShowList(Bytes der, std::ostream& out) {
   // thisUpdate.
   const NodePtr elements = SplitPair(signedPart, "split the signed part");
   const Anybuf* element = elements.get();
-  uint32_t version = 0;
-  if (element->dataType == kIntegerTag) {
-    Check(ASN1_ReadInteger(element, &version), "read the version");
-    element = element->next;
-  }
+  const bool hasVersion = element->dataType == kIntegerTag;
+  out << "  version: " << (hasVersion ? Version(*element) : 1) << "\n  issuer:\n";
+  if (hasVersion) element = element->next;
   const Anybuf& issuer = *element->next;
-  out << "  version: " << uint64_t{version} + 1 << "\n  issuer:\n";
   PutName(out, issuer);
   out << "  this update: " << TimeText(*issuer.next, "read thisUpdate") << '\n';
   element = issuer.next->next;
-  if (element != nullptr && IsTime(*element)) {
+  if (element != nullptr &&
+      (element->dataType == kUtcTimeTag || element->dataType == kGeneralizedTimeTag)) {
     out << "  next update: " << TimeText(*element, "read nextUpdate") << '\n';
     element = element->next;
   }
@@ -98,9 +96,7 @@ NodePtr ShowList(Bytes der, std::ostream& out) {
   for (const Anybuf& entry : Chain(entries.get())) written.Append(ShowEntry(entry, out));
   if (hasEntries) entries = Make("write the entries", ASN1_WriteSequence, written.Head());
   if (element != nullptr) {
-    NodePtr extensions;
-    uint32_t tag = 0;
-    Check(ASN1_ReadExplicit(element, Out(extensions), &tag), "open the extensions");
+    const NodePtr extensions = Element(velkord::Content(View(*element)), "open the extensions");
     out << "  extensions:\n";
     PutExtensions(out, ReadExtensions(*extensions), "    ");
   }

@@ -93,23 +93,17 @@ void InspectFile(const std::string& name, Tally& tally) {
   }
 }
 
-void PutCount(size_t count, std::string_view noun) {
-  std::cout << count << ' ' << noun << (count == 1 ? "" : "s");
-}
-
-void PutSummary(const Tally& tally, size_t files) {
-  PutCount(tally.blocks, "block");
-  std::cout << " in ";
-  PutCount(files, "file");
-  std::cout << ": " << tally.read << " read, " << tally.identical << " of " << tally.rebuilt
-            << " rebuilt identical\n";
+std::string Count(size_t count, const std::string& noun) {
+  return std::to_string(count) + ' ' + noun + (count == 1 ? "" : "s");
 }
 
 int Inspect(std::span<char*> names) {
   Tally tally;
   for (const char* name : names) InspectFile(name, tally);
-  PutSummary(tally, names.size());
-  std::cout.flush();
+  std::cout << Count(tally.blocks, "block") << " in " << Count(names.size(), "file") << ": "
+            << tally.read << " read, " << tally.identical << " of " << tally.rebuilt
+            << " rebuilt identical\n"
+            << std::flush;
   if (!std::cout) Report(tally, "standard output", "cannot be written");
   return !tally.anyError && tally.identical == tally.rebuilt ? 0 : 1;
 }

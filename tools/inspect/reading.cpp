@@ -22,7 +22,7 @@ SecretBytes ReadFile(const std::string& name) {
   opened.rdbuf()->pubsetbuf(nullptr, 0);
   const bool isStandardInput = name == "-";
   if (isStandardInput) {
-    setvbuf(stdin, nullptr, _IONBF, 0);
+    (void)setvbuf(stdin, nullptr, _IONBF, 0);
   } else {
     opened.open(name, std::ios::binary);
   }

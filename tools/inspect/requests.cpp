@@ -40,9 +40,7 @@ NodePtr ShowRequest(Bytes der, std::ostream& out) {
   const Anybuf& signedPart = *request->certificationRequestInfo;
   const auto info =
       Make("decode the signed part", ASN1_PKCS10Decode, signedPart.data, signedPart.dataLen);
-  uint32_t version = 0;
-  Check(ASN1_ReadInteger(info->version, &version), "read the version");
-  out << "  version: " << uint64_t{version} + 1 << "\n  subject:\n";
+  out << "  version: " << Version(*info->version) << "\n  subject:\n";
   PutName(out, *info->subject);
   out << "  key algorithm: " << KeyAlgorithmText(*info->subjectPublicKeyInfo) << '\n';
   NodePtr attributes;

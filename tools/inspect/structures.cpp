@@ -9,10 +9,7 @@ using velkord::Bytes, velkord::Chain, velkord::Check, velkord::Errc, velkord::Le
 
 namespace {
 
-// Reduced tags.
-constexpr uint32_t kObjectIdTag = 6;
-constexpr uint32_t kUtcTimeTag = 23;
-constexpr uint32_t kGeneralizedTimeTag = 24;
+constexpr uint32_t kObjectIdTag = 6;  // Reduced.
 
 // A string by its type; of other types the content as it stands.
 std::string ValueText(const Anybuf& node, const char* step) {
@@ -50,10 +47,6 @@ std::string IdText(const Anybuf& node, const char* step) {
   return ObjectIdText(Content(node, step));
 }
 
-bool IsTime(const Anybuf& node) {
-  return node.dataType == kUtcTimeTag || node.dataType == kGeneralizedTimeTag;
-}
-
 std::string TimeText(const Anybuf& node, const char* step) {
   std::string text = EscapedText(Content(node, step));
   try {
@@ -65,6 +58,12 @@ std::string TimeText(const Anybuf& node, const char* step) {
   }
   return text.substr(0, 4) + '-' + text.substr(4, 2) + '-' + text.substr(6, 2) + ' ' +
          text.substr(8, 2) + ':' + text.substr(10, 2) + ':' + text.substr(12, 2) + " UTC";
+}
+
+uint64_t Version(const Anybuf& number) {
+  uint32_t version = 0;
+  Check(ASN1_ReadInteger(&number, &version), "read the version");
+  return uint64_t{version} + 1;
 }
 
 std::string AlgorithmText(const Anybuf& algorithm) {

@@ -13,6 +13,8 @@
 // Reduced tags.
 inline constexpr uint32_t kIntegerTag = 2;
 inline constexpr uint32_t kSequenceTag = 16;
+inline constexpr uint32_t kUtcTimeTag = 23;
+inline constexpr uint32_t kGeneralizedTimeTag = 24;
 
 // The content of a TLV node: of a BIT STRING without its unused-bits octet, of an INTEGER without
 // the zero octet that only keeps it positive.
@@ -27,10 +29,11 @@ velkord::NodePtr SplitPair(const Anybuf& sequence, const char* step);
 // The text of an OBJECT IDENTIFIER node, as ObjectIdText writes it.
 std::string IdText(const Anybuf& node, const char* step);
 
-bool IsTime(const Anybuf& node);
-
 // In UTC; a text that is not that of a time comes as it is, with a remark.
 std::string TimeText(const Anybuf& node, const char* step);
+
+// What a version's INTEGER stands for.
+uint64_t Version(const Anybuf& number);
 
 std::string AlgorithmText(const Anybuf& algorithm);
 

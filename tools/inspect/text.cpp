@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string_view>
 #include <system_error>
+#include <utility>
 
 using velkord::Bytes;
 
@@ -54,10 +55,7 @@ constexpr std::string_view kKnownObjectIds[] = {
 
 // Characters that move the cursor, end the line, reorder the text around them or are invisible
 // would let a certificate forge what its reader sees. The backslash starts an escape.
-struct Range {
-  uint32_t first;
-  uint32_t last;
-};
+using Range = std::pair<uint32_t, uint32_t>;
 constexpr Range kEscaped[] = {
     {0, 0x1F},        {'\\', '\\'},     {0x7F, 0x9F},     {0xAD, 0xAD},     {0x200B, 0x200B},
     {0x200E, 0x200F}, {0x2028, 0x202E}, {0x2066, 0x2069}, {0xFEFF, 0xFEFF},
@@ -82,7 +80,7 @@ std::string EscapedText(Bytes text) {
     const size_t size = ReadCharacter(text, code);
     const Bytes form = text.first(std::max<size_t>(size, 1));
     const bool isEscaped = std::ranges::any_of(
-        kEscaped, [=](Range range) { return range.first <= code && code <= range.last; });
+        kEscaped, [=](Range range) { return range.first <= code && code <= range.second; });
     if (size != 0 && !isEscaped) {
       escaped.append(form.begin(), form.end());
     } else {
