@@ -52,6 +52,7 @@
 ///
 /// | group | what it holds |
 /// |---|---|
+/// | @ref version | the numbers and the text |
 /// | @ref codes | what each means |
 /// | @ref records | what functions fill and read, field by field |
 /// | @ref nodes | a node made and released |
@@ -79,6 +80,18 @@
 #define VELKORD_H_
 
 #include <stdint.h>
+
+// -------------------------------------------------------------------------------------------------
+/// @defgroup version Version
+/// That of this header.
+
+/// The three numbers, or the text made of them.
+/// @{
+#define VELKORD_VERSION_MAJOR 1
+#define VELKORD_VERSION_MINOR 0
+#define VELKORD_VERSION_PATCH 0
+#define VELKORD_VERSION_STRING "1.0.0"
+/// @}
 
 #if defined(VELKORD_STATIC)
 #define VELKORD_EXPORT
