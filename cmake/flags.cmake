@@ -18,6 +18,5 @@ endif()
 function(velkord_strict target)
   target_compile_options(${target} PRIVATE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wcast-align
-    # Warnings are faults here, but a newer compiler's are no business of a project around this one.
-    $<$<BOOL:${PROJECT_IS_TOP_LEVEL}>:-Werror>)
+    $<$<BOOL:${VELKORD_WERROR}>:-Werror>)
 endfunction()
