@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Compares the names that a library exports, or that a .def file lists, with those of the header, and
-# the libraries that it needs with the C library, on Windows the system's kernel as well.
+# the libraries that it needs with the C library, on Windows the system's kernel as well. On Linux each
+# name is of the version VELKORD_1.
 # Usage: check_symbols.sh LIBRARY OBJDUMP
 set -euo pipefail
 export LC_ALL=C
@@ -18,7 +19,7 @@ case $1 in
     names=$(sed -nE 's/^ *(\w+) @[0-9]+.*/\1/p' "$1")
     ;;
   *)
-    names=$(nm -D --defined-only --format=posix "$1" | cut -d ' ' -f 1)
+    names=$(nm -D --defined-only --format=posix "$1" | sed '/^VELKORD_1/d; s/@@VELKORD_1 .*//')
     needed=$("$2" -p "$1" | sed -n 's/.*NEEDED *//p')
     allowed=libc.so.6
     ;;
