@@ -14,6 +14,10 @@
 #ifndef VELKORD_HPP_
 #define VELKORD_HPP_
 
+#if __cplusplus < 202002L && !(defined(_MSVC_LANG) && _MSVC_LANG >= 202002L)
+#error "velkord.hpp needs C++20"
+#endif
+
 #include <algorithm>
 #include <charconv>
 #include <chrono>

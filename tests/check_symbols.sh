@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Compares the names that a library exports, or that a .def file lists, with those of the header, and
 # the libraries that it needs with the C library, on Windows the system's kernel as well. On Linux each
-# name is of the version VELKORD_1.
+# name is of the version VELKORD_1. A static library has the names of its inside, in C++, as well.
 # Usage: check_symbols.sh LIBRARY OBJDUMP
 set -euo pipefail
 export LC_ALL=C
@@ -17,6 +17,10 @@ case $1 in
     ;;
   *.def)
     names=$(sed -nE 's/^ *(\w+) @[0-9]+.*/\1/p' "$1")
+    ;;
+  *.a)
+    names=$(nm -g --defined-only --format=posix "$1" |
+      sed -nE '/^_ZNK?(7velkord8internal|St)/d; s/ [A-Z] .*//p')
     ;;
   *)
     names=$(nm -D --defined-only --format=posix "$1" | sed '/^VELKORD_1/d; s/@@VELKORD_1 .*//')
