@@ -80,15 +80,15 @@ TEST(InPlace, PairsAreAsApart) {
        {std::pair(&ASN1_SM2_SM2SignatureDecode, "30 0C 02 04 81 82 83 84 02 04 11 22 33 44"),
         std::pair(&ASN1_SM2_PubkeyDecode, "03 0A 00 04 81 82 83 84 11 22 33 44")}) {
     // The length of the first number too may lie over the second one.
-    ExpectSameInPlace(
-        FromHex(der), 12, 4, [decode = decode](auto* in, auto size, auto* out, auto* written) {
-          decode(out + 4, reinterpret_cast<uint32_t*>(out), out + 8, written, in, size);
-          *written += 8;
-        });
+    ExpectSameInPlace(FromHex(der), 12, 4,
+                      [read = decode](auto* in, auto size, auto* out, auto* written) {
+                        read(out + 4, reinterpret_cast<uint32_t*>(out), out + 8, written, in, size);
+                        *written += 8;
+                      });
     ExpectSameInPlace(FromHex(der), 8, 1,
-                      [decode = decode](auto* in, auto size, auto* out, auto* written) {
+                      [read = decode](auto* in, auto size, auto* out, auto* written) {
                         uint32_t firstSize = 0;
-                        decode(out + 4, &firstSize, out, written, in, size);
+                        read(out + 4, &firstSize, out, written, in, size);
                         *written += firstSize;
                       });
   }

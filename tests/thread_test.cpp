@@ -19,9 +19,9 @@ TEST(Threads, CallAllFamiliesOnObjectsOfTheirOwn) {
     SetZone(zone);
     std::vector<std::jthread> threads;
     for (size_t number = 0; number < kThreads; ++number) {
-      threads.emplace_back([&cases = cases, number] {
-        const size_t first = number * cases.size() / kThreads;
-        for (size_t at = 0; at < cases.size(); ++at) RunCase(cases[(first + at) % cases.size()]);
+      threads.emplace_back([&shared = cases, number] {
+        const size_t first = number * shared.size() / kThreads;
+        for (size_t at = 0; at < shared.size(); ++at) RunCase(shared[(first + at) % shared.size()]);
       });
     }
   }
