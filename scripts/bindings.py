@@ -5,6 +5,7 @@ bindings/python/velkord_api.py. The list that the tests are built with comes fro
 """
 import argparse
 import difflib
+import itertools
 import pathlib
 import re
 import sys
@@ -56,6 +57,7 @@ class Function(NamedTuple):
     name: str
     arguments: list[Named]
     text: str
+    documentation: str  # All of the comment, which functions that stand together share.
 
 
 # -------------------------------------------------------------------------------------------------
@@ -115,7 +117,7 @@ def read_header():
     position = header.index('extern "C" {\n#endif\n') + len('extern "C" {\n#endif\n')
     end = header.index("#ifdef __cplusplus\n}")
     items = []
-    text = ""
+    text = documentation = ""
     while position < end:
         match = ITEMS.match(header, position)
         if not match:
@@ -126,6 +128,7 @@ def read_header():
             items.append(Section(section_text(match["title"], match["about"])))
         elif match["text"]:
             text = first_sentence(match["text"])
+            documentation = plain(match["text"])
         elif match["constants"]:
             items.extend(constants(match["constants"]))
         elif match["record"]:
@@ -134,7 +137,7 @@ def read_header():
             base = match["result"].rstrip("*")
             result = Type(False, base, len(match["result"]) - len(base))
             arguments = declarations(match["arguments"], ",")
-            items.append(Function(result, match["function"], arguments, text))
+            items.append(Function(result, match["function"], arguments, text, documentation))
         if not match["blank"] and not match["text"]:
             text = ""
     return items
@@ -401,9 +404,15 @@ class Python:
             elif isinstance(item, Function):
                 yield from comment("# ==== ", section, 4)
                 section = ""
-                yield from comment("# ", item.text, 4)
                 yield from self.function(item)
         yield "}"
+        yield ""
+        yield "# What the header says of each function, and of those that stand together once."
+        yield "DOCUMENTATION = {name: text for names, text in ("
+        for text, family in itertools.groupby(
+                of_kind(self.items, Function), lambda function: function.documentation):
+            yield from self.documentation([function.name for function in family], text)
+        yield ") for name in names.split()}"
         yield ""
         yield ""
         yield "def declare(library):"
@@ -412,6 +421,20 @@ class Python:
         yield "        function = getattr(library, name)"
         yield "        function.restype = result"
         yield "        function.argtypes = list(arguments.values())"
+
+    def strings(self, text):
+        """Lines of literals that together are the text."""
+        lines = textwrap.wrap(text, WIDTH - 12)
+        return [repr(line + " ") for line in lines[:-1]] + [repr(lines[-1])]
+
+    def documentation(self, names, text):
+        lines = self.strings(" ".join(names))
+        lines[-1] += ","
+        lines += self.strings(text)
+        lines[0] = "(" + lines[0]
+        lines[-1] += "),"
+        yield "    " + lines[0]
+        yield from ("     " + line for line in lines[1:])
 
     def function(self, function):
         result = "None" if function.result.base == "void" else self.kind(function.result)

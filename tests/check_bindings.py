@@ -193,6 +193,14 @@ def check_programs():
     return whole.read_bytes()
 
 
+def check_parameters():
+    node = velkord.ASN1_CreateAnybuf(type=4, bytes=b"abc")
+    assert (node.dataType, node.data) == (4, b"abc")
+    for values in ((b"abc",), (b"abc", 4, 4)):
+        with contextlib.suppress(TypeError):
+            sys.exit(f"A call with {len(values)} values: {velkord.ASN1_CreateAnybuf(*values)}")
+
+
 class Usage(ctypes.Structure):
     """What mallinfo2 returns; the eighth number counts the bytes in use."""
     _fields_ = [("numbers", ctypes.c_size_t * 10)]
@@ -221,6 +229,7 @@ def used_memory(certificate, rounds):
 check_names()
 check_layout()
 check_readers()
+check_parameters()
 whole = check_programs()
 before = used_memory(whole, 100)
 # The smallest block that can be lost is larger.

@@ -1,7 +1,8 @@
 """The functions of Velkord under their own names, taking and returning bytes.
 
-Arguments come in the order of include/Velkord.h. Two kinds are left out: a length that follows
-bytes, and what the function hands out, which comes back: None, one value, or a tuple of several.
+Arguments come in the order of Velkord.h, or by their names there; `help` shows both. Two kinds are
+left out: a length that follows bytes, and what the function hands out, which comes back: None, one
+value, or a tuple of several.
 
 - Bytes are given as bytes, text as bytes or str.
 - A node or a record is a Handle, and None is the null pointer. A Handle releases what it holds, so
@@ -12,14 +13,18 @@ bytes, and what the function hands out, which comes back: None, one value, or a 
 - The record of a key is a structure of velkord_api that the caller makes and the function fills.
 - Bytes that the function did not write come back as None.
 
-A return code below 0 raises VelkordError. The library is $VELKORD_LIBRARY, or found by its name.
+A return code below 0 raises VelkordError. The library is $VELKORD_LIBRARY; or the one beside this
+file, of the build, or of the folders that this file was installed with; or that of the system.
 
 content, read_time, object_id_text and utf8_text are what velkord.hpp has for C++: they read elements,
 times beyond 2038 too, as values of Python.
 """
 import ctypes
+import ctypes.util
 import datetime
+import inspect
 import os
+import pathlib
 import re
 import weakref
 
@@ -42,10 +47,20 @@ class VelkordError(Exception):
         self.code = code
 
 
+def _candidates():
+    """Where the library may be, the first that can be loaded first."""
+    if "VELKORD_LIBRARY" in os.environ:
+        return [os.environ["VELKORD_LIBRARY"]]
+    here = pathlib.Path(__file__).resolve().parent
+    name, folder, system = "libVelkord.so.1", "lib", "libVelkord.so.1"
+    if os.name == "nt":
+        name, folder, system = "Velkord.dll", "bin", ctypes.util.find_library("Velkord")
+    near = [here, here / "../../build/release", here / "../../.." / folder]
+    return [str(path / name) for path in near if (path / name).exists()] + [system or name]
+
+
 def _load():
-    usual = ["Velkord.dll"] if os.name == "nt" else ["libVelkord.so.1", "libVelkord.so"]
-    named = os.environ.get("VELKORD_LIBRARY")
-    for name in [named] if named else usual:
+    for name in _candidates():
         try:
             return ctypes.CDLL(name)
         except OSError as error:
@@ -139,6 +154,19 @@ def _size(value):
     return 0
 
 
+def _parameters(name):
+    """Yields those that the caller gives: no length of bytes, and nothing that is handed out."""
+    before = None
+    for parameter, kind in velkord_api.FUNCTIONS[name][1].items():
+        if _is_pointer(kind):
+            is_given = issubclass(kind._type_, ctypes.Structure)
+        else:
+            is_given = kind is ctypes.c_char_p or before is not ctypes.c_char_p
+        if is_given:
+            yield parameter
+        before = kind
+
+
 class _Call:
     """The arguments of one call, put together from the values that are given."""
 
@@ -147,37 +175,28 @@ class _Call:
         self.result, arguments = velkord_api.FUNCTIONS[name]
         values = [value.encode() if isinstance(value, str) else value for value in values]
         self.room = ROOM + 2 * sum(map(_size, values))
-        self.values = iter(values)
+        self.given = dict(zip(_parameters(name), values))
         self.passed = []
         self.readers = []  # One for each result.
         self.before = None  # The bytes or the buffer that a length may follow.
-        for kind in arguments.values():
-            self.before = self.add(kind)
-        if next(self.values, self) is not self:
-            raise TypeError(f"{name}: too many arguments")
+        for parameter, kind in arguments.items():
+            self.before = self.add(parameter, kind)
 
-    def value(self):
-        try:
-            return next(self.values)
-        except StopIteration:
-            raise TypeError(f"{self.name}: too few arguments") from None
-
-    def add(self, kind):
+    def add(self, parameter, kind):
         target = getattr(kind, "_type_", None) if _is_pointer(kind) else None
         if kind is ctypes.c_char_p:
-            value = self.value()
+            value = self.given[parameter]
             self.passed.append(value)
             return value or b""
         if target is None:
-            is_length = isinstance(self.before, bytes)
-            value = len(self.before) if is_length else self.value()
+            value = self.given[parameter] if parameter in self.given else len(self.before)
             self.passed.append(_number(kind, value))
         elif _is_pointer(target):
             cell = target()
             self.passed.append(ctypes.byref(cell))
             self.readers.append(lambda: Handle(cell) if cell else None)
         elif issubclass(target, ctypes.Structure):
-            value = self.value()
+            value = self.given[parameter]
             if isinstance(value, Handle):
                 value = value._pointer
             self.passed.append(value)
@@ -279,9 +298,9 @@ def uniToUTF8(code):
     return bytes(form[:size])
 
 
-def utf8ToUni(text):
-    """Gives the number of bytes that were read, and the code point."""
-    text = text.encode() if isinstance(text, str) else text
+def utf8ToUni(in_):
+    """Returns the number of bytes that were read, and the code point."""
+    text = in_.encode() if isinstance(in_, str) else in_
     code = ctypes.c_uint32()
     size = library.utf8ToUni(text, len(text), ctypes.byref(code))
     if size <= 0:
@@ -370,12 +389,19 @@ def utf8_text(element):
 
 
 def _bind(name):
-    def function(*values):
-        return _Call(name, values).run()
+    signature = inspect.Signature([
+        inspect.Parameter(parameter, inspect.Parameter.POSITIONAL_OR_KEYWORD)
+        for parameter in _parameters(name)])
 
-    function.__name__ = name
+    def function(*values, **named):
+        return _Call(name, signature.bind(*values, **named).args).run()
+
+    function.__name__ = function.__qualname__ = name
+    function.__signature__ = signature
     return function
 
 
-for _name in velkord_api.FUNCTIONS.keys() - _FREE_NAMES - globals().keys():
-    globals()[_name] = _bind(_name)
+for _name in velkord_api.FUNCTIONS.keys() - _FREE_NAMES:
+    _function = globals().setdefault(_name, _bind(_name))
+    _function.__doc__ = "\n\n".join(
+        filter(None, [velkord_api.DOCUMENTATION[_name], _function.__doc__]))
