@@ -79,6 +79,7 @@ std::string KeyAlgorithmText(const Anybuf& keyInfo) {
   return AlgorithmText(*algorithm);
 }
 
+// [put_name]
 void PutName(std::ostream& out, const Anybuf& name) {
   const NodePtr relativeNames = Make("split a name", ASN1_ReadDerName, &name);
   for (const Anybuf& relative : Chain(relativeNames.get())) {
@@ -91,6 +92,7 @@ void PutName(std::ostream& out, const Anybuf& name) {
     }
   }
 }
+// [/put_name]
 
 std::vector<Extension> ReadExtensions(const Anybuf& list) {
   std::vector<Extension> extensions;
