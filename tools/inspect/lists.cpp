@@ -48,8 +48,9 @@ NodePtr ShowEntry(const Anybuf& element, std::ostream& out) {
 std::string SignedPartRemark(const Anybuf& original, const Anybuf* entries) {
   Handle<TbsCertList> record;
   const int32_t code = ASN1_CRL_TbsCertListDecode(original.data, original.dataLen, Out(record));
-  if (code != VELKORD_OK)
+  if (code != VELKORD_OK) {
     return "no, its record cannot be decoded: " + velkord::ToErrorCode(code).message();
+  }
   if (entries != nullptr) {
     Check(ASN1_CRL_TbsCertListSetRevokedCertificates(record.get(), entries), "set the entries");
   }
