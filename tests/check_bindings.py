@@ -1,5 +1,6 @@
 """Holds the declarations for other languages to the library, and what the programs in Python and
-Pascal and that of the guide read in certificates to what openssl reads. tests/CMakeLists.txt sets the environment."""
+Pascal and that of the guide read in certificates to what openssl reads. tests/CMakeLists.txt sets
+the environment."""
 import contextlib
 import ctypes
 import difflib

@@ -28,7 +28,7 @@ def object_id(node):
 
 
 def escaped(text):
-    """Characters that end the line or move the cursor would let a certificate forge what its reader sees."""
+    """Without characters that end the line or move the cursor, which could forge what is read."""
     return "".join(
         char if char.isprintable() and char != "\\" else f"\\u{ord(char):04x}"
         for char in text)

@@ -9,6 +9,8 @@
 #include <stdexcept>
 #include <string_view>
 
+#include "Velkord.h"
+
 // Runs `work` with the arguments and returns the exit status: that of the work, 1 when it throws, 2
 // for an option other than --help and --version, or when there are fewer than `least` arguments or
 // more than `most`; "-" alone is no option. The library reads and writes times as the machine's
@@ -20,7 +22,7 @@ int RunCommand(int argc, char** argv, std::string_view usage, size_t least, size
   for (const std::string_view argument : arguments) {
     if (!argument.starts_with('-') || argument == "-") continue;
     if (argument == "--help" || argument == "--version") {
-      std::cout << (argument == "--help" ? usage : "Velkord " VELKORD_TOOLS_VERSION "\n");
+      std::cout << (argument == "--help" ? usage : "Velkord " VELKORD_VERSION_STRING "\n");
       return 0;
     }
     std::cerr << argv[0] << ": no option " << argument << '\n' << usage;
