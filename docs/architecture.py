@@ -15,7 +15,7 @@ FOLDERS = {
     "keys": "RSA, EC and SM2 keys",
     "der": "nodes, tags, universal types",
     "text": "Base64, PEM, GB2312, UTF-8",
-    "platform": "allocator, local time",
+    "platform": "allocator, time, processor",
 }
 WIDE, HIGH, GAP_X, GAP_Y, TOP = 196, 54, 36, 56, 84
 INCLUDE = re.compile(r'^#include "([a-z0-9]+)/', re.MULTILINE)

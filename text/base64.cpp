@@ -1,6 +1,9 @@
 // Base64 of plain buffers: base64_encode and base64_decode; and the portable kernel.
 #include "text/base64.h"
 
+#include <algorithm>
+#include <cstring>
+
 #include "Velkord.h"
 #include "text/base64_alphabet.h"
 
@@ -46,11 +49,28 @@ size_t DecodeGroups(const char* in, size_t size, uint8_t* out) {
   return taken;
 }
 
-constexpr Base64Kernel kPortable = {EncodeGroups, EncodeLines, DecodeGroups};
+size_t DecodeLines(const char* in, size_t lines, size_t lineEnd, uint8_t* out) {
+  size_t taken = 0;
+  for (; taken < lines; ++taken, in += kLineCharacters + lineEnd, out += kLineBytes) {
+    if (!IsLineEnd(in + kLineCharacters, lineEnd)) break;
+    if (DecodeGroups(in, kLineCharacters, out) < kLineCharacters) break;
+  }
+  return taken;
+}
+
+// Shorter texts are not worth the choice of a kernel.
+constexpr size_t kShortText = 16;
 
 size_t EncodeWholeGroups(const Base64Kernel& kernel, const uint8_t* in, size_t size, char* out) {
   const size_t taken = kernel.encode(in, size, out);
   return taken + EncodeGroups(in + taken, size - taken, out + taken / 3 * 4);
+}
+
+// The size of the line end behind the first 64 characters, 0 where there is none.
+size_t LineEndSize(std::string_view text) {
+  if (text.size() < kLineCharacters + 2) return 0;
+  const char* place = text.data() + kLineCharacters;
+  return IsLineEnd(place, 2) ? 2 : IsLineEnd(place, 1) ? 1 : 0;
 }
 
 size_t DecodeCleanGroups(const Base64Kernel& kernel, std::string_view text, uint8_t* out) {
@@ -61,18 +81,23 @@ size_t DecodeCleanGroups(const Base64Kernel& kernel, std::string_view text, uint
 
 }  // namespace
 
-std::span<const Base64Kernel> Base64Kernels() {
-#if defined(VELKORD_BASE64_X86)
+std::span<const Base64Kernel> Base64Kernels(size_t octets) {
   static constexpr Base64Kernel kKernels[] = {
-      {EncodeBase64Avx2, EncodeBase64LinesAvx2, DecodeBase64Avx2},
-      {EncodeBase64Ssse3, EncodeBase64LinesSsse3, DecodeBase64Ssse3},
-      kPortable};
-  const size_t missing =
-      __builtin_cpu_supports("avx2") ? 0 : (__builtin_cpu_supports("ssse3") ? 1 : 2);
-  return std::span(kKernels).subspan(missing);
-#else
-  return {&kPortable, 1};
+#if defined(VELKORD_X86)
+    {EncodeBase64Vbmi, EncodeBase64LinesVbmi, DecodeBase64Vbmi, DecodeBase64LinesVbmi},
+    {EncodeBase64Avx2, EncodeBase64LinesAvx2, DecodeBase64Avx2, DecodeBase64LinesAvx2},
+    {EncodeBase64Ssse3, EncodeBase64LinesSsse3, DecodeBase64Ssse3, DecodeBase64LinesSsse3},
 #endif
+    {EncodeGroups, EncodeLines, DecodeGroups, DecodeLines}
+  };
+  size_t missing = 0;
+#if defined(VELKORD_X86)
+  const X86Features features = octets < kShortText ? X86Features() : AskForX86Features(octets);
+  if (!features.avx512Vbmi) missing = features.avx2 ? 1 : features.ssse3 ? 2 : 3;
+#else
+  static_cast<void>(octets);
+#endif
+  return std::span(kKernels).subspan(missing);
 }
 
 char* PutBase64(const Base64Kernel& kernel, const uint8_t* in, size_t size, char* place) {
@@ -94,46 +119,77 @@ char* PutBase64(const Base64Kernel& kernel, const uint8_t* in, size_t size, char
   return place;
 }
 
-uint32_t DecodeBase64(const Base64Kernel& kernel, std::string_view text, Invalid invalid,
-                      uint8_t* out) {
-  uint8_t* place = out;
-  uint8_t indexes[4] = {};
-  size_t filled = 0;
-  size_t padding = 0;
+// Moves past characters that the kernel took, of which the last group ends at `end`.
+void Base64Decoder::MoveOn(std::string_view& text, size_t taken, size_t end, size_t bytes) {
+  for (size_t at = 0; at < 4; ++at) indexes_[at] = Base64Value(text[end - 4 + at]);
+  text.remove_prefix(taken);
+  place_ += bytes;
+}
+
+bool Base64Decoder::TakeByKernel(std::string_view& text) {
+  const size_t lineEnd = invalid_ == Invalid::kSkipped ? LineEndSize(text) : 0;
+  if (lineEnd != 0) {
+    const size_t width = kLineCharacters + lineEnd;
+    const size_t lines = kernel_.decodeLines(text.data(), text.size() / width, lineEnd, place_);
+    if (lines != 0) {
+      MoveOn(text, lines * width, lines * width - lineEnd, lines * kLineBytes);
+      return true;
+    }
+  }
+  const size_t taken = DecodeCleanGroups(kernel_, text, place_);
+  if (taken != 0) MoveOn(text, taken, taken, taken / 4 * 3);
+  return taken != 0;
+}
+
+bool Base64Decoder::Decode(std::string_view text) {
   while (!text.empty()) {
     const uint8_t value = Base64Value(text.front());
     // At an invalid character the kernel would read a block for nothing.
-    if (filled == 0 && value < kBase64Padding) {
-      const size_t taken = DecodeCleanGroups(kernel, text, place);
-      if (taken != 0) {
-        place += taken / 4 * 3;
-        for (size_t at = 0; at < 4; ++at) indexes[at] = Base64Value(text[taken - 4 + at]);
-        text.remove_prefix(taken);
-        continue;
-      }
-    }
+    if (filled_ == 0 && value < kBase64Padding && TakeByKernel(text)) continue;
     text.remove_prefix(1);
-    if (value == kNotBase64 && invalid == Invalid::kSkipped) continue;
-    if (value < kBase64Padding) indexes[filled] = value;
-    if (value == kBase64Padding) ++padding;
-    if (++filled < 4) continue;
-    filled = 0;
-    place = PutGroup(place, indexes, padding < 3 ? 3 - padding : 0);
-    if (padding != 0) break;
+    if (value == kNotBase64 && invalid_ == Invalid::kSkipped) continue;
+    if (value < kBase64Padding) indexes_[filled_] = value;
+    if (value == kBase64Padding) ++padding_;
+    if (++filled_ < 4) continue;
+    filled_ = 0;
+    place_ = PutGroup(place_, indexes_, padding_ < 3 ? 3 - padding_ : 0);
+    if (padding_ != 0) return false;
   }
-  return static_cast<uint32_t>(place - out);
+  return true;
 }
 
 }  // namespace velkord::internal
 
 using namespace velkord::internal;
 
+namespace {
+
+// The size of a zero-terminated text, or `limit` where it is longer.
+size_t SizeUpTo(uint64_t limit, const char* text) {
+  const auto most = static_cast<size_t>(limit);
+  const void* end = std::memchr(text, '\0', most);
+  return end == nullptr ? most : static_cast<size_t>(static_cast<const char*>(end) - text);
+}
+
+}  // namespace
+
 int32_t base64_encode(const uint8_t* in, uint32_t length, char* out) {
-  *PutBase64(Base64Kernels().front(), in, length, out) = '\0';
+  *PutBase64(Base64Kernels(length).front(), in, length, out) = '\0';
   return VELKORD_OK;
 }
 
 int32_t base64_decode(const char* text, uint8_t* out, uint32_t* outLength) {
-  *outLength = DecodeBase64(Base64Kernels().front(), text, Invalid::kTakePlaces, out);
+  // A part is still in the cache when it is decoded after the search for the end of the text.
+  constexpr uint64_t kPart = 32768;
+  // Characters beyond these would make more bytes than the length can tell.
+  uint64_t left = uint64_t{UINT32_MAX} / 3 * 4;
+  size_t size = SizeUpTo(kPart, text);
+  Base64Decoder decoder(Base64Kernels(size).front(), Invalid::kTakePlaces, out);
+  while (decoder.Decode({text, size}) && size == kPart) {
+    text += size;
+    left -= size;
+    size = SizeUpTo(std::min(kPart, left), text);
+  }
+  *outLength = decoder.Written();
   return VELKORD_OK;
 }

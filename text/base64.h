@@ -21,10 +21,32 @@ enum class Invalid {
   kTakePlaces,
 };
 
-// Decodes the complete groups of `text`, up to the first with padding, and returns the number of
-// bytes written.
-uint32_t DecodeBase64(const Base64Kernel& kernel, std::string_view text, Invalid invalid,
-                      uint8_t* out);
+// Decodes a text that comes in parts, each group when it is complete, up to the first with padding.
+class Base64Decoder {
+ public:
+  Base64Decoder(const Base64Kernel& kernel, Invalid invalid, uint8_t* out)
+      : kernel_(kernel), invalid_(invalid), out_(out), place_(out) {}
+
+  // Decodes the next part. False when nothing that follows counts any more.
+  bool Decode(std::string_view text);
+
+  // The number of bytes written.
+  uint32_t Written() const { return static_cast<uint32_t>(place_ - out_); }
+
+ private:
+  // Takes lines or groups of valid characters off the front. False when there are none.
+  bool TakeByKernel(std::string_view& text);
+  void MoveOn(std::string_view& text, size_t taken, size_t end, size_t bytes);
+
+  const Base64Kernel& kernel_;
+  Invalid invalid_;
+  uint8_t* out_;
+  uint8_t* place_;
+  // The group that is not complete yet, over the indexes of the one before.
+  uint8_t indexes_[4] = {};
+  size_t filled_ = 0;
+  size_t padding_ = 0;
+};
 
 }  // namespace velkord::internal
 

@@ -1,5 +1,5 @@
 // Base64 in blocks of 24 bytes and 32 characters, over the vector operations of one instruction
-// set.
+// set, after Muła and Lemire, "Faster Base64 Encoding and Decoding Using AVX2 Instructions" (2018).
 //
 // `Vector` has the type `Block`, 32 octets in two lanes of 16, and the operations on it. It has
 // internal linkage, and so has each function that is made of it here: the code of an instruction
@@ -15,6 +15,13 @@
 
 #include "text/base64_alphabet.h"
 #include "text/base64_kernel.h"
+
+// The constants of a block stay in registers only where its code is part of the loop.
+#if defined(_MSC_VER)
+#define VELKORD_ALWAYS_INLINE __forceinline
+#else
+#define VELKORD_ALWAYS_INLINE inline __attribute__((always_inline))
+#endif
 
 namespace velkord::internal {
 
@@ -55,19 +62,19 @@ inline constexpr LaneTable kSpreadHigh = SpreadGroups(4);
 inline constexpr LaneTable kGather = {
     {2, 1, 0, 6, 5, 4, 10, 9, 8, 14, 13, 12, 0x80, 0x80, 0x80, 0x80}};
 
-// The place of an index of 26 or more in the table of offsets is the index minus this, at least 0:
-// 0 is for lower case, 1 to 10 for digits, then '+' and '/'. The last place is for upper case.
+// The place of an index in the table of offsets: 0 is for upper case, 1 for lower case, 2 to 11 for
+// digits, then '+' and '/'. It is the index minus this, at least 0, and one more from 26 on.
 inline constexpr uint8_t kBeforeDigits = 51;
-inline constexpr uint8_t kUpperCasePlace = 13;
+inline constexpr uint8_t kLastUpperCase = 25;
 
 // What is added to an index to make it its character.
 inline constexpr LaneTable kCharacterOffsets = [] {
   LaneTable table{};
-  table.octets[0] = 'a' - 26;
+  table.octets[0] = 'A';
+  table.octets[1] = 'a' - 26;
   for (uint8_t index = kBeforeDigits + 1; index < 64; ++index) {
-    table.octets[index - kBeforeDigits] = static_cast<uint8_t>(kBase64Alphabet[index] - index);
+    table.octets[index - kBeforeDigits + 1] = static_cast<uint8_t>(kBase64Alphabet[index] - index);
   }
-  table.octets[kUpperCasePlace] = 'A';
   return table;
 }();
 
@@ -118,12 +125,12 @@ struct LaneAccess {
   }
   static void StoreLane(__m128i lane, void* out) { std::memcpy(out, &lane, sizeof(lane)); }
   static void StoreHalfLane(__m128i lane, void* out) {
-    _mm_storel_epi64(static_cast<__m128i_u*>(out), lane);
+    _mm_storel_epi64(static_cast<__m128i*>(out), lane);
   }
 };
 
 template <typename Vector>
-typename Vector::Block EncodeBlock(const uint8_t* in) {
+VELKORD_ALWAYS_INLINE typename Vector::Block EncodeBlock(const uint8_t* in) {
   // Each group of three bytes becomes 32 bits that hold it twice, so that one multiplication moves
   // its first and third index into their octets, and another its second and fourth.
   const auto groups =
@@ -134,31 +141,42 @@ typename Vector::Block EncodeBlock(const uint8_t* in) {
                                                    Vector::Words(0x01000010));
   const auto indexes = Vector::Or(firstAndThird, secondAndFourth);
 
-  const auto upperCase = Vector::Greater(Vector::Table(kFilled<26>), indexes);
+  // What is greater has all its bits set, which is -1.
   const auto places =
-      Vector::Or(Vector::SubtractToZero(indexes, Vector::Table(kFilled<kBeforeDigits>)),
-                 Vector::And(upperCase, Vector::Table(kFilled<kUpperCasePlace>)));
+      Vector::Subtract(Vector::SubtractToZero(indexes, Vector::Table(kFilled<kBeforeDigits>)),
+                       Vector::Greater(indexes, Vector::Table(kFilled<kLastUpperCase>)));
   return Vector::Add(indexes, Vector::Shuffle(Vector::Table(kCharacterOffsets), places));
 }
 
-// The groups of a block of characters. False when one of those is invalid.
+// Marks of a block of characters: not all zeros when one of those is invalid.
 template <typename Vector>
-bool DecodeBlock(const char* in, typename Vector::Block& groups) {
-  const auto characters = Vector::LoadCharacters(in);
-  const auto high = Vector::And(Vector::ShiftRight4(characters), Vector::Table(kFilled<0x0F>));
+VELKORD_ALWAYS_INLINE typename Vector::Block InvalidMarks(typename Vector::Block characters,
+                                                          typename Vector::Block high) {
   const auto low = Vector::And(characters, Vector::Table(kFilled<0x0F>));
-  if (Vector::AnyInCommon(Vector::Shuffle(Vector::Table(kHighBits), high),
-                          Vector::Shuffle(Vector::Table(kLowBits), low))) {
-    return false;
-  }
-  const auto places = Vector::Add(high, Vector::Equal(characters, Vector::Table(kFilled<'/'>)));
-  const auto indexes =
-      Vector::Add(characters, Vector::Shuffle(Vector::Table(kIndexOffsets), places));
+  return Vector::And(Vector::Shuffle(Vector::Table(kHighBits), high),
+                     Vector::Shuffle(Vector::Table(kLowBits), low));
+}
 
-  // Two indexes to 12 bits, two of those to 24.
-  const auto pairs = Vector::MultiplyAddOctets(indexes, Vector::Words(0x01400140));
-  groups = Vector::Shuffle(Vector::MultiplyAddPairs(pairs, Vector::Words(0x00011000)),
-                           Vector::Table(kGather));
+// Decodes that many blocks. False when one of them holds an invalid character; then nothing is
+// written.
+template <typename Vector, size_t kBlocks>
+VELKORD_ALWAYS_INLINE bool DecodeRun(const char* in, uint8_t* out) {
+  typename Vector::Block blocks[kBlocks];
+  auto marks = Vector::Words(0);
+  for (size_t at = 0; at < kBlocks; ++at) {
+    const auto characters = Vector::LoadCharacters(in + at * kBlockCharacters);
+    const auto high = Vector::And(Vector::ShiftRight4(characters), Vector::Table(kFilled<0x0F>));
+    marks = Vector::Or(marks, InvalidMarks<Vector>(characters, high));
+    const auto places = Vector::Add(high, Vector::Equal(characters, Vector::Table(kFilled<'/'>)));
+    const auto indexes =
+        Vector::Add(characters, Vector::Shuffle(Vector::Table(kIndexOffsets), places));
+    // Two indexes to 12 bits, two of those to 24.
+    const auto pairs = Vector::MultiplyAddOctets(indexes, Vector::Words(0x01400140));
+    blocks[at] = Vector::Shuffle(Vector::MultiplyAddPairs(pairs, Vector::Words(0x00011000)),
+                                 Vector::Table(kGather));
+  }
+  if (!Vector::AllZero(marks)) return false;
+  for (size_t at = 0; at < kBlocks; ++at) Vector::StoreGathered(blocks[at], out + at * kBlockBytes);
   return true;
 }
 
@@ -184,12 +202,29 @@ void EncodeLinesOfBlocks(const uint8_t* in, size_t lines, char* out) {
 
 template <typename Vector>
 size_t DecodeBlocks(const char* in, size_t size, uint8_t* out) {
+  constexpr size_t kAtOnce = 4;
   size_t taken = 0;
-#pragma GCC unroll 4
-  for (; size - taken >= kBlockCharacters; taken += kBlockCharacters, out += kBlockBytes) {
-    typename Vector::Block groups{};
-    if (!DecodeBlock<Vector>(in + taken, groups)) break;
-    Vector::StoreGathered(groups, out);
+  while (size - taken >= kAtOnce * kBlockCharacters &&
+         DecodeRun<Vector, kAtOnce>(in + taken, out)) {
+    taken += kAtOnce * kBlockCharacters;
+    out += kAtOnce * kBlockBytes;
+  }
+  while (size - taken >= kBlockCharacters && DecodeRun<Vector, 1>(in + taken, out)) {
+    taken += kBlockCharacters;
+    out += kBlockBytes;
+  }
+  return taken;
+}
+
+template <typename Vector>
+size_t DecodeLinesOfBlocks(const char* in, size_t lines, size_t lineEnd, uint8_t* out) {
+  constexpr size_t kOfLine = kLineCharacters / kBlockCharacters;
+  size_t taken = 0;
+  while (taken < lines && IsLineEnd(in + kLineCharacters, lineEnd) &&
+         DecodeRun<Vector, kOfLine>(in, out)) {
+    ++taken;
+    in += kLineCharacters + lineEnd;
+    out += kLineBytes;
   }
   return taken;
 }

@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <span>
 
+#include "platform/processor.h"
+
 namespace velkord::internal {
 
 // A full line of PEM text, which ends with CR LF.
@@ -19,6 +21,11 @@ static inline char* PutLineEnd(char* place) {
   return place;
 }
 
+// Whether a line end of one octet, LF, or of two, CR LF, is at a place.
+static inline bool IsLineEnd(const char* place, size_t size) {
+  return place[size - 1] == '\n' && (size == 1 || place[0] == '\r');
+}
+
 // `encode` and `decode` take complete groups from the front of `in`, as many as suit them, and
 // return the number of bytes or characters taken. They read nothing but `in`, and write nothing
 // but the result of those groups.
@@ -29,20 +36,29 @@ struct Base64Kernel {
   void (*encodeLines)(const uint8_t* in, size_t lines, char* out);
   // Groups of four characters of the alphabet, up to the first group that holds any other.
   size_t (*decode)(const char* in, size_t size, uint8_t* out);
+  // At most that many full lines of such groups, each with a line end of `lineEnd` octets. Returns
+  // the number of lines taken, in front of the first that is different.
+  size_t (*decodeLines)(const char* in, size_t lines, size_t lineEnd, uint8_t* out);
 };
 
-// The kernels that this processor can run, the fastest first. The last is the portable one, which
-// takes every complete group.
-std::span<const Base64Kernel> Base64Kernels();
+// The kernels that may be run on that many octets, the fastest first. The last is the portable one,
+// which takes every complete group. It is alone where the platform does not tell what the processor
+// can do and the text is too short to ask.
+std::span<const Base64Kernel> Base64Kernels(size_t octets);
 
-#if defined(__x86_64__) || defined(__i386__)
-#define VELKORD_BASE64_X86
+#if defined(VELKORD_X86)
+size_t EncodeBase64Vbmi(const uint8_t* in, size_t size, char* out);
+void EncodeBase64LinesVbmi(const uint8_t* in, size_t lines, char* out);
+size_t DecodeBase64Vbmi(const char* in, size_t size, uint8_t* out);
+size_t DecodeBase64LinesVbmi(const char* in, size_t lines, size_t lineEnd, uint8_t* out);
 size_t EncodeBase64Avx2(const uint8_t* in, size_t size, char* out);
 void EncodeBase64LinesAvx2(const uint8_t* in, size_t lines, char* out);
 size_t DecodeBase64Avx2(const char* in, size_t size, uint8_t* out);
+size_t DecodeBase64LinesAvx2(const char* in, size_t lines, size_t lineEnd, uint8_t* out);
 size_t EncodeBase64Ssse3(const uint8_t* in, size_t size, char* out);
 void EncodeBase64LinesSsse3(const uint8_t* in, size_t lines, char* out);
 size_t DecodeBase64Ssse3(const char* in, size_t size, uint8_t* out);
+size_t DecodeBase64LinesSsse3(const char* in, size_t lines, size_t lineEnd, uint8_t* out);
 #endif
 
 }  // namespace velkord::internal

@@ -1,8 +1,24 @@
-// Base64 in pairs of registers of 16 octets. This file alone is compiled for SSSE3.
-#include <tmmintrin.h>
+// Base64 in pairs of registers of 16 octets. For SSSE3, by the method
+// that text/base64_blocks.h tells.
+#include "text/base64_kernel.h"
+
+#if defined(VELKORD_X86)
+
+#include <emmintrin.h>
+#include <immintrin.h>
+
+#include <cstring>
+
+#include "text/base64_alphabet.h"
+
+// Functions from here on, those of the next header too, are compiled for it.
+#if defined(__clang__)
+#pragma clang attribute push(__attribute__((target("ssse3"))), apply_to = function)
+#elif defined(__GNUC__)
+#pragma GCC target("ssse3")
+#endif
 
 #include "text/base64_blocks.h"
-#include "text/base64_kernel.h"
 
 namespace velkord::internal {
 
@@ -41,6 +57,9 @@ struct Ssse3 : LaneAccess<Ssse3> {
   static Block Add(Block a, Block b) {
     return {_mm_add_epi8(a.low, b.low), _mm_add_epi8(a.high, b.high)};
   }
+  static Block Subtract(Block a, Block b) {
+    return {_mm_sub_epi8(a.low, b.low), _mm_sub_epi8(a.high, b.high)};
+  }
   static Block SubtractToZero(Block a, Block b) {
     return {_mm_subs_epu8(a.low, b.low), _mm_subs_epu8(a.high, b.high)};
   }
@@ -68,10 +87,9 @@ struct Ssse3 : LaneAccess<Ssse3> {
   static Block MultiplyAddPairs(Block a, Block b) {
     return {_mm_madd_epi16(a.low, b.low), _mm_madd_epi16(a.high, b.high)};
   }
-  static bool AnyInCommon(Block a, Block b) {
-    const Block common = And(a, b);
-    const __m128i any = _mm_or_si128(common.low, common.high);
-    return _mm_movemask_epi8(_mm_cmpeq_epi8(any, _mm_setzero_si128())) != 0xFFFF;
+  static bool AllZero(Block a) {
+    const __m128i any = _mm_or_si128(a.low, a.high);
+    return _mm_movemask_epi8(_mm_cmpeq_epi8(any, _mm_setzero_si128())) == 0xFFFF;
   }
 };
 
@@ -89,4 +107,14 @@ size_t DecodeBase64Ssse3(const char* in, size_t size, uint8_t* out) {
   return DecodeBlocks<Ssse3>(in, size, out);
 }
 
+size_t DecodeBase64LinesSsse3(const char* in, size_t lines, size_t lineEnd, uint8_t* out) {
+  return DecodeLinesOfBlocks<Ssse3>(in, lines, lineEnd, out);
+}
+
 }  // namespace velkord::internal
+
+#if defined(__clang__)
+#pragma clang attribute pop
+#endif
+
+#endif

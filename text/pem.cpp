@@ -60,7 +60,7 @@ int32_t DER2PEM_data_format(const uint8_t* der, uint32_t length, char* out, uint
   if (size > UINT32_MAX) return VELKORD_FAILURE;
 
   char* place = PutMarker(out, header);
-  const Base64Kernel& kernel = Base64Kernels().front();
+  const Base64Kernel& kernel = Base64Kernels(length).front();
   const size_t lines = length / kLineBytes;
   const size_t rest = length % kLineBytes;
   kernel.encodeLines(der, lines, place);
@@ -76,6 +76,8 @@ int32_t DER2PEM_data_format(const uint8_t* der, uint32_t length, char* out, uint
 int32_t PEM2DER_data_format(const char* pem, uint32_t length, uint8_t* out, uint32_t* outLength) {
   std::string_view body;
   if (!FindBody(std::string_view(pem, length), body)) return VELKORD_FAILURE;
-  *outLength = DecodeBase64(Base64Kernels().front(), body, Invalid::kSkipped, out);
+  Base64Decoder decoder(Base64Kernels(body.size()).front(), Invalid::kSkipped, out);
+  decoder.Decode(body);
+  *outLength = decoder.Written();
   return VELKORD_OK;
 }

@@ -1,0 +1,28 @@
+// What an x86 processor can do. The platform, which has found it out already, is asked at each
+// call, so that the library keeps no state and does no work when it is loaded.
+#ifndef VELKORD_PLATFORM_PROCESSOR_H_
+#define VELKORD_PLATFORM_PROCESSOR_H_
+
+#include <cstddef>
+
+#if defined(__x86_64__) || defined(__i386__) || defined(_M_X64) || defined(_M_IX86)
+#define VELKORD_X86
+
+namespace velkord::internal {
+
+// Sets of instructions that the processor has and the system lets programs use.
+struct X86Features {
+  bool ssse3 = false;
+  bool avx2 = false;
+  bool avx512Vbmi = false;  // With AVX512F and AVX512BW.
+};
+
+// Where the platform does not know them, the processor itself is asked if a work on that many
+// octets pays for it; otherwise it is taken to have none.
+X86Features AskForX86Features(size_t octets);
+
+}  // namespace velkord::internal
+
+#endif
+
+#endif  // VELKORD_PLATFORM_PROCESSOR_H_
