@@ -125,11 +125,11 @@ int32_t ASN1_SM2_PubkeyDecode(uint8_t* x, uint32_t* xLen, uint8_t* y, uint32_t* 
                               const uint8_t* der, uint32_t derLen) {
   Bytes point;
   if (x != nullptr && xLen != nullptr && y != nullptr && yLen != nullptr &&
-      OpenValue(der, derLen, point) == VELKORD_OK && !point.empty() &&
-      point.size() <= kMaximumPoint) {
-    // The first byte is the form and is skipped.
-    const size_t half = (point.size() - 1) / 2;
-    CopyOutBoth(point.subspan(1, half), x, xLen, point.subspan(1 + half, half), y, yLen);
+      OpenValue(der, derLen, point) == VELKORD_OK && point.size() <= kMaximumPoint) {
+    // The first byte is the form and is skipped. Without any byte both halves are empty.
+    const Bytes halves = point.empty() ? point : point.subspan(1);
+    const size_t half = halves.size() / 2;
+    CopyOutBoth(halves.first(half), x, xLen, halves.subspan(half, half), y, yLen);
   }
   return VELKORD_OK;
 }
