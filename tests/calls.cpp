@@ -6,8 +6,9 @@
 
 namespace {
 
-// The arguments of a call as text: none and null are null pointers. Of a node that the function may
-// release it does not release what follows `kept`, the node itself or its neighbour.
+// The arguments of a call as text: none and null are null pointers, and so is a text without bytes;
+// `empty` is a pointer to none. Of a node that the function may release it does not release what
+// follows `kept`, the node itself or its neighbour.
 class TextInputs : public Inputs {
  public:
   explicit TextInputs(const Arguments& in) : in_(in) {}
@@ -27,6 +28,8 @@ class TextInputs : public Inputs {
   Block Bytes(size_t size) override {
     const std::string text = Next();
     if (text == "null") return {nullptr, 1};
+    // The end of a block, where any read shows under the sanitizers.
+    if (text == "empty") return {Keep(MakeNode({0}))->data + 1, 0};
     const Anybuf* node = Keep(MakeNode(FromHex(text)));
     EXPECT_TRUE(size == 0 || size == node->dataLen);
     return {node->dataLen == 0 ? nullptr : node->data, node->dataLen};
@@ -83,8 +86,10 @@ void CallWithNulls(const Function& function, const Arguments& arguments, void* s
   }
 }
 
-// The code of a setter that fails, which must leave the record as it was.
+// The code of a setter that fails, which must leave the record as it was. The step `show` gives the
+// fields of the record.
 std::string Set(const RecordType& type, void* record, const std::string& step) {
+  if (step == "show") return type.Describe(record) + "; ";
   const std::string name = step.substr(0, step.find('='));
   const std::string value = step.substr(name.size() + 1);
   for (const RecordType::Field& field : type.fields) {
