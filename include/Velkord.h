@@ -19,8 +19,10 @@
 /// `ASN1_SetAlgorithmIdentifier` alone differs. What it hands out is new: nodes and chains are
 /// released with `ASN1_FreeAnybuf`, a record and all in it with the Free function of its type. A
 /// Free function does nothing for a null pointer. All blocks come from the C run-time's `malloc`
-/// and go back through its `free`, so a caller may build and take apart nodes itself. Threads may
-/// use different nodes and records at the same time.
+/// and go back through its `free`, so a caller may build and take apart nodes itself.
+///
+/// **Threads** may use different nodes and records at the same time. No thread may change the
+/// environment or the time zone while another reads or writes a time, as the group Time tells.
 ///
 /// **Records.** A record owns the nodes in its fields: copies, those of a SEQUENCE or SET with its
 /// own length in shortest form. A setter releases what the field held before, and sets the flag of
@@ -555,7 +557,10 @@ VELKORD_API int32_t ASN1_ReadImplicit(const Anybuf* source, Anybuf** out, uint32
 /// A time is a number of seconds since 1 January 1970. The text of an element is the machine's
 /// local time followed by "Z", so it is UTC only where the local zone is UTC. The zone is that of
 /// the C library: the one that TZ names at the call, or without TZ the one that it has read;
-/// whoever changes that calls `tzset`, on Windows `_tzset`.
+/// whoever changes that calls `tzset`, on Windows `_tzset`. The C library looks for TZ with
+/// `getenv`, and a `setenv` of any variable moves what that reads. So no thread may change the
+/// environment during a call that reads or writes a time: one of the functions below,
+/// `ASN1_GetValidity`, or one that sets, writes or decodes a revocation list or an entry of it.
 
 /// Makes the element of a time. Returns `VELKORD_OK`, `VELKORD_NEGATIVE_TIME`,
 /// `VELKORD_NULL_ARGUMENT` or `VELKORD_OUT_OF_MEMORY` (also when the platform refuses the time).

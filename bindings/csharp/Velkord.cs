@@ -602,7 +602,11 @@ public static class Velkord
     // ==== Time. A time is a number of seconds since 1 January 1970. The text of an element is the
     // ==== machine's local time followed by "Z", so it is UTC only where the local zone is UTC. The
     // ==== zone is that of the C library: the one that TZ names at the call, or without TZ the one
-    // ==== that it has read; whoever changes that calls `tzset`, on Windows `_tzset`.
+    // ==== that it has read; whoever changes that calls `tzset`, on Windows `_tzset`. The C library
+    // ==== looks for TZ with `getenv`, and a `setenv` of any variable moves what that reads. So no
+    // ==== thread may change the environment during a call that reads or writes a time: one of the
+    // ==== functions below, `ASN1_GetValidity`, or one that sets, writes or decodes a revocation
+    // ==== list or an entry of it.
 
     // Makes the element of a time.
     [DllImport(Library, CallingConvention = Cdecl)]

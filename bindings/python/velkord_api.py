@@ -389,7 +389,11 @@ FUNCTIONS = {
     # ==== Time. A time is a number of seconds since 1 January 1970. The text of an element is the
     # ==== machine's local time followed by "Z", so it is UTC only where the local zone is UTC. The
     # ==== zone is that of the C library: the one that TZ names at the call, or without TZ the one
-    # ==== that it has read; whoever changes that calls `tzset`, on Windows `_tzset`.
+    # ==== that it has read; whoever changes that calls `tzset`, on Windows `_tzset`. The C library
+    # ==== looks for TZ with `getenv`, and a `setenv` of any variable moves what that reads. So no
+    # ==== thread may change the environment during a call that reads or writes a time: one of the
+    # ==== functions below, `ASN1_GetValidity`, or one that sets, writes or decodes a revocation
+    # ==== list or an entry of it.
     "ASN1_WriteGeneralizedTime": _of(c_int32, time=P(c_int32), out=P(P(Anybuf))),
     "ASN1_WriteUtcTime": _of(c_int32, time=P(c_int32), out=P(P(Anybuf))),
     "ASN1_ReadGeneralizedTime": _of(c_int32, source=P(Anybuf), time=P(c_int32)),
