@@ -1005,7 +1005,8 @@ VELKORD_API int32_t ASN1_SM2_PrikeyDecode(uint8_t* value, uint32_t* valueLen, co
 VELKORD_API int32_t ASN1_SM2_PubkeyEncode(const uint8_t* x, uint32_t xLen, const uint8_t* y,
                                           uint32_t yLen, uint8_t* der, uint32_t* derLen);
 /// Copies the two halves, of equal length, of what follows the first byte of a public point; an odd
-/// last byte is left out. `x` and `y` need half of `derLen` each, at most 127 bytes.
+/// last byte is left out, and of a point without bytes both are empty. `x` and `y` need half of
+/// `derLen` each, at most 127 bytes.
 VELKORD_API int32_t ASN1_SM2_PubkeyDecode(uint8_t* x, uint32_t* xLen, uint8_t* y, uint32_t* yLen,
                                           const uint8_t* der, uint32_t derLen);
 // -------------------------------------------------------------------------------------------------

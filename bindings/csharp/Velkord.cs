@@ -1217,7 +1217,7 @@ public static class Velkord
         [In, Out] byte[] der, ref uint derLen);
 
     // Copies the two halves, of equal length, of what follows the first byte of a public point; an
-    // odd last byte is left out.
+    // odd last byte is left out, and of a point without bytes both are empty.
     [DllImport(Library, CallingConvention = Cdecl)]
     public static extern int ASN1_SM2_PubkeyDecode([In, Out] byte[] x, ref uint xLen,
         [In, Out] byte[] y, ref uint yLen, byte[] der, uint derLen);

@@ -1161,7 +1161,7 @@ function ASN1_SM2_PubkeyEncode(AX: PByte; AXLen: Cardinal; AY: PByte; AYLen: Car
   var ADerLen: Cardinal): Integer; cdecl; external VelkordLibrary name 'ASN1_SM2_PubkeyEncode';
 
 // Copies the two halves, of equal length, of what follows the first byte of a public point; an odd
-// last byte is left out.
+// last byte is left out, and of a point without bytes both are empty.
 function ASN1_SM2_PubkeyDecode(AX: PByte; var AXLen: Cardinal; AY: PByte; var AYLen: Cardinal;
   ADer: PByte; ADerLen: Cardinal): Integer;
   cdecl; external VelkordLibrary name 'ASN1_SM2_PubkeyDecode';

@@ -1055,8 +1055,8 @@ DOCUMENTATION = {name: text for names, text in (
      '`ASN1_CreateAnybuf`.'),
     ('ASN1_SM2_PubkeyDecode',
      'Copies the two halves, of equal length, of what follows the first byte of a public '
-     'point; an odd last byte is left out. `x` and `y` need half of `derLen` each, at most 127 '
-     'bytes.'),
+     'point; an odd last byte is left out, and of a point without bytes both are empty. `x` '
+     'and `y` need half of `derLen` each, at most 127 bytes.'),
     ('base64_encode',
      'Writes Base64 text and a terminating zero to `out`, without line breaks. `out` needs 4 '
      'bytes for each 3 bytes of input or part of them, and 1 more. Returns `VELKORD_OK`.'),
