@@ -68,7 +68,7 @@ uint32_t KeptRegisters() {
 #endif
 }
 
-X86Features AskByCpuid() {
+X86Features ReadFeatures() {
   constexpr uint32_t kKeptForAvx = 0x06;
   constexpr uint32_t kKeptForAvx512 = 0xE6;
   const Leaf leaf1 = ReadLeaf(1);
@@ -99,24 +99,33 @@ __attribute__((weak)) const cpuid_feature* __x86_get_cpuid_feature_leaf(unsigned
 
 namespace velkord::internal {
 
-X86Features AskForX86Features(size_t octets) {
+namespace {
+
 #if defined(__GLIBC__)
-  if (__x86_get_cpuid_feature_leaf != nullptr) {
-    const Leaf& leaf7 = __x86_get_cpuid_feature_leaf(1)->active;
-    const X86Features features = FromLeaves(Leaf{}, leaf7);
-    // Most need one call alone.
-    return features.avx2 ? features : FromLeaves(__x86_get_cpuid_feature_leaf(0)->active, leaf7);
-  }
+bool KnowsFeatures() { return __x86_get_cpuid_feature_leaf != nullptr; }
+X86Features KnownFeatures() {
+  const Leaf& leaf7 = __x86_get_cpuid_feature_leaf(1)->active;
+  const X86Features features = FromLeaves(Leaf{}, leaf7);
+  // Most need one call alone.
+  return features.avx2 ? features : FromLeaves(__x86_get_cpuid_feature_leaf(0)->active, leaf7);
+}
 #elif defined(_WIN32)
-  // By number, since headers have their names late. Windows 10 of 2020 knows both, an older one
-  // none.
-  constexpr DWORD kSsse3 = 36;
-  constexpr DWORD kAvx2 = 40;
-  if (IsProcessorFeaturePresent(kSsse3) != 0) {
-    return {true, IsProcessorFeaturePresent(kAvx2) != 0, false};
-  }
+// By number, since headers have their names late. Windows 10 of 2020 knows both, an older one none.
+bool KnowsFeatures() { return IsProcessorFeaturePresent(36) != 0; }  // SSSE3
+X86Features KnownFeatures() { return {true, IsProcessorFeaturePresent(40) != 0, false}; }
+#else
+bool KnowsFeatures() { return false; }
+X86Features KnownFeatures() { return {}; }
 #endif
-  return octets < kPaysForCpuid ? X86Features() : AskByCpuid();
+
+}  // namespace
+
+X86Features AskForX86Features(size_t octets) {
+  return KnowsFeatures() ? KnownFeatures() : AskX86Processor(octets);
+}
+
+X86Features AskX86Processor(size_t octets) {
+  return octets < kPaysForCpuid ? X86Features() : ReadFeatures();
 }
 
 }  // namespace velkord::internal

@@ -17,9 +17,11 @@ struct X86Features {
   bool avx512Vbmi = false;  // With AVX512F and AVX512BW.
 };
 
-// Where the platform does not know them, the processor itself is asked if a work on that many
-// octets pays for it; otherwise it is taken to have none.
+// By the platform. Where it does not know them, by the processor.
 X86Features AskForX86Features(size_t octets);
+
+// By the processor itself, if a work on that many octets pays for the question; otherwise none.
+X86Features AskX86Processor(size_t octets);
 
 }  // namespace velkord::internal
 

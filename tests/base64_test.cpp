@@ -3,9 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <string>
 #include <vector>
 
+#include "Velkord.h"
 #include "text/base64_alphabet.h"
 
 namespace {
@@ -99,13 +101,40 @@ TEST(Base64, EveryKernelAgreesAtEveryLengthAndAlignment) {
 TEST(Base64, EveryKernelAgreesOnAnyCharacterAtEveryPlace) {
   std::vector<std::string> others = {"==", "=A", "A=", "\r\n", "*A", "A*", "=*", "*=", "==="};
   for (int c = 0; c < 256; ++c) others.emplace_back(1, static_cast<char>(c));
-  // Two blocks and a half of the widest kernel.
-  const std::string clean = Encode(Kernels().back(), Sample(63), 0);
-  for (size_t at = 0; at < clean.size(); ++at) {
-    for (const std::string& other : others) {
-      ExpectDecoded(std::string(clean).replace(at, other.size(), other), at % kAlignments);
+  const std::string text = Encode(Kernels().back(), Sample(150), 0);
+  // Alone it is more than four blocks of 32 characters, and the last block is not whole.
+  std::vector<std::string> texts = {text};
+  for (const std::string end : {"\n", "\r\n"}) {
+    texts.push_back(text.substr(0, 64) + end + text.substr(64, 64) + end + text.substr(128) + end);
+  }
+  for (const std::string& clean : texts) {
+    ExpectDecoded(clean, 0);
+    for (size_t at = 0; at < clean.size(); ++at) {
+      for (const std::string& other : others) {
+        ExpectDecoded(std::string(clean).replace(at, other.size(), other), at % kAlignments);
+      }
     }
   }
 }
+
+TEST(Base64, LongTextsAreDecodedInParts) {
+  const std::string clean = Encode(Kernels().front(), Sample(100000), 0);
+  for (const std::string& text : {clean, "*" + clean, clean.substr(0, 70001) + "=" + clean}) {
+    const Block out(0, std::string(text.size() / 4 * 3, 0));
+    uint32_t size = 0;
+    ASSERT_EQ(base64_decode(text.c_str(), out.Bytes(), &size), 0);
+    ASSERT_TRUE(std::string_view(out.text, size) == PlainDecode(text, Invalid::kTakePlaces));
+  }
+}
+
+#if defined(VELKORD_X86) && defined(__GLIBC__)
+TEST(Processor, PlatformAndProcessorTellTheSame) {
+  const auto numbers = [](const X86Features& features) {
+    return std::array{features.ssse3, features.avx2, features.avx512Vbmi};
+  };
+  EXPECT_EQ(numbers(AskForX86Features(1)), numbers(AskX86Processor(1 << 20)));
+  EXPECT_EQ(numbers(AskX86Processor(1)), numbers({}));
+}
+#endif
 
 }  // namespace
