@@ -39,7 +39,7 @@ using Octets = std::array<uint8_t, 64>;
 // The bytes b0 b1 b2 of each group as b1 b0 b2 b1.
 constexpr Octets kSpread = [] {
   Octets places{};
-  for (size_t at = 0; at < places.size(); at += 4) {
+  for (size_t at = 0; at != places.size(); at += 4) {
     const auto first = static_cast<uint8_t>(at / 4 * 3);
     places[at + 1] = first;
     places[at] = places[at + 3] = static_cast<uint8_t>(first + 1);
@@ -58,7 +58,7 @@ constexpr Octets kSpread = [] {
 constexpr Octets kShifts = [] {
   Octets shifts{};
   constexpr uint8_t kOfGroup[] = {10, 4, 22, 16};
-  for (size_t at = 0; at < shifts.size(); ++at) {
+  for (size_t at = 0; at != shifts.size(); ++at) {
     shifts[at] = static_cast<uint8_t>(kOfGroup[at % 4] + at / 4 % 2 * 32);
   }
   return shifts;
@@ -66,7 +66,7 @@ constexpr Octets kShifts = [] {
 
 constexpr Octets kCharacters = [] {
   Octets characters{};
-  for (size_t at = 0; at < characters.size(); ++at) {
+  for (size_t at = 0; at != characters.size(); ++at) {
     characters[at] = static_cast<uint8_t>(kBase64Alphabet[at]);
   }
   return characters;
@@ -75,7 +75,7 @@ constexpr Octets kCharacters = [] {
 // The indexes of 64 characters from `first` on; 0x80 for what is none of the alphabet.
 constexpr Octets Indexes(size_t first) {
   Octets indexes{};
-  for (size_t at = 0; at < indexes.size(); ++at) {
+  for (size_t at = 0; at != indexes.size(); ++at) {
     const uint8_t value = kBase64Values[first + at];
     indexes[at] = value < kBase64Padding ? value : kNotBase64;
   }
