@@ -105,7 +105,9 @@ TEST(Base64, EveryKernelAgreesOnAnyCharacterAtEveryPlace) {
   // Alone it is more than four blocks of 32 characters, and the last block is not whole.
   std::vector<std::string> texts = {text};
   for (const std::string end : {"\n", "\r\n"}) {
-    texts.push_back(text.substr(0, 64) + end + text.substr(64, 64) + end + text.substr(128) + end);
+    std::string lines = text;
+    lines.append(end).insert(128, end).insert(64, end);
+    texts.push_back(lines);
   }
   for (const std::string& clean : texts) {
     ExpectDecoded(clean, 0);
