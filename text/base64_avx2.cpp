@@ -8,6 +8,7 @@
 #include <immintrin.h>
 
 #include <cstring>
+#include <utility>
 
 #include "text/base64_alphabet.h"
 

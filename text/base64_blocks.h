@@ -12,6 +12,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <utility>
 
 #include "text/base64_alphabet.h"
 #include "text/base64_kernel.h"
@@ -148,35 +149,35 @@ VELKORD_ALWAYS_INLINE typename Vector::Block EncodeBlock(const uint8_t* in) {
   return Vector::Add(indexes, Vector::Shuffle(Vector::Table(kCharacterOffsets), places));
 }
 
-// Marks of a block of characters: not all zeros when one of those is invalid.
+// The groups of a block of characters. When one of those is invalid, `marks` gets bits that are not
+// 0.
 template <typename Vector>
-VELKORD_ALWAYS_INLINE typename Vector::Block InvalidMarks(typename Vector::Block characters,
-                                                          typename Vector::Block high) {
+VELKORD_ALWAYS_INLINE typename Vector::Block DecodeBlock(const char* in,
+                                                         typename Vector::Block& marks) {
+  const auto characters = Vector::LoadCharacters(in);
+  const auto high = Vector::And(Vector::ShiftRight4(characters), Vector::Table(kFilled<0x0F>));
   const auto low = Vector::And(characters, Vector::Table(kFilled<0x0F>));
-  return Vector::And(Vector::Shuffle(Vector::Table(kHighBits), high),
-                     Vector::Shuffle(Vector::Table(kLowBits), low));
+  marks = Vector::Or(marks, Vector::And(Vector::Shuffle(Vector::Table(kHighBits), high),
+                                        Vector::Shuffle(Vector::Table(kLowBits), low)));
+  const auto places = Vector::Add(high, Vector::Equal(characters, Vector::Table(kFilled<'/'>)));
+  const auto indexes =
+      Vector::Add(characters, Vector::Shuffle(Vector::Table(kIndexOffsets), places));
+  // Two indexes to 12 bits, two of those to 24.
+  const auto pairs = Vector::MultiplyAddOctets(indexes, Vector::Words(0x01400140));
+  return Vector::Shuffle(Vector::MultiplyAddPairs(pairs, Vector::Words(0x00011000)),
+                         Vector::Table(kGather));
 }
 
-// Decodes that many blocks. False when one of them holds an invalid character; then nothing is
-// written.
-template <typename Vector, size_t kBlocks>
-VELKORD_ALWAYS_INLINE bool DecodeRun(const char* in, uint8_t* out) {
-  typename Vector::Block blocks[kBlocks];
+// Decodes a block for each of the places, which are 0, 1 and so on. False when one of them holds an
+// invalid character; then nothing is written. It is no loop, so that all stays in registers.
+template <typename Vector, size_t... kPlaces>
+VELKORD_ALWAYS_INLINE bool DecodeRun(const char* in, uint8_t* out,
+                                     std::index_sequence<kPlaces...> /*places*/) {
   auto marks = Vector::Words(0);
-  for (size_t at = 0; at < kBlocks; ++at) {
-    const auto characters = Vector::LoadCharacters(in + at * kBlockCharacters);
-    const auto high = Vector::And(Vector::ShiftRight4(characters), Vector::Table(kFilled<0x0F>));
-    marks = Vector::Or(marks, InvalidMarks<Vector>(characters, high));
-    const auto places = Vector::Add(high, Vector::Equal(characters, Vector::Table(kFilled<'/'>)));
-    const auto indexes =
-        Vector::Add(characters, Vector::Shuffle(Vector::Table(kIndexOffsets), places));
-    // Two indexes to 12 bits, two of those to 24.
-    const auto pairs = Vector::MultiplyAddOctets(indexes, Vector::Words(0x01400140));
-    blocks[at] = Vector::Shuffle(Vector::MultiplyAddPairs(pairs, Vector::Words(0x00011000)),
-                                 Vector::Table(kGather));
-  }
+  const typename Vector::Block blocks[] = {
+      DecodeBlock<Vector>(in + kPlaces * kBlockCharacters, marks)...};
   if (!Vector::AllZero(marks)) return false;
-  for (size_t at = 0; at < kBlocks; ++at) Vector::StoreGathered(blocks[at], out + at * kBlockBytes);
+  (Vector::StoreGathered(blocks[kPlaces], out + kPlaces * kBlockBytes), ...);
   return true;
 }
 
@@ -205,11 +206,12 @@ size_t DecodeBlocks(const char* in, size_t size, uint8_t* out) {
   constexpr size_t kAtOnce = 4;
   size_t taken = 0;
   while (size - taken >= kAtOnce * kBlockCharacters &&
-         DecodeRun<Vector, kAtOnce>(in + taken, out)) {
+         DecodeRun<Vector>(in + taken, out, std::make_index_sequence<kAtOnce>())) {
     taken += kAtOnce * kBlockCharacters;
     out += kAtOnce * kBlockBytes;
   }
-  while (size - taken >= kBlockCharacters && DecodeRun<Vector, 1>(in + taken, out)) {
+  while (size - taken >= kBlockCharacters &&
+         DecodeRun<Vector>(in + taken, out, std::index_sequence<0>())) {
     taken += kBlockCharacters;
     out += kBlockBytes;
   }
@@ -221,7 +223,7 @@ size_t DecodeLinesOfBlocks(const char* in, size_t lines, size_t lineEnd, uint8_t
   constexpr size_t kOfLine = kLineCharacters / kBlockCharacters;
   size_t taken = 0;
   while (taken < lines && IsLineEnd(in + kLineCharacters, lineEnd) &&
-         DecodeRun<Vector, kOfLine>(in, out)) {
+         DecodeRun<Vector>(in, out, std::make_index_sequence<kOfLine>())) {
     ++taken;
     in += kLineCharacters + lineEnd;
     out += kLineBytes;

@@ -1,5 +1,5 @@
-// Base64 in pairs of registers of 16 octets. For SSSE3, by the method
-// that text/base64_blocks.h tells.
+// Base64 in pairs of registers of 16 octets, for SSSE3, by the method that text/base64_blocks.h
+// tells.
 #include "text/base64_kernel.h"
 
 #if defined(VELKORD_X86)
@@ -8,6 +8,7 @@
 #include <immintrin.h>
 
 #include <cstring>
+#include <utility>
 
 #include "text/base64_alphabet.h"
 
