@@ -203,7 +203,7 @@ void EncodeLinesOfBlocks(const uint8_t* in, size_t lines, char* out) {
 
 template <typename Vector>
 size_t DecodeBlocks(const char* in, size_t size, uint8_t* out) {
-  constexpr size_t kAtOnce = 4;
+  constexpr size_t kAtOnce = 2;
   size_t taken = 0;
   while (size - taken >= kAtOnce * kBlockCharacters &&
          DecodeRun<Vector>(in + taken, out, std::make_index_sequence<kAtOnce>())) {
