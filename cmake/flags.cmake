@@ -16,7 +16,9 @@ if(VELKORD_FUZZ)
 endif()
 
 function(velkord_strict target)
-  target_compile_options(${target} PRIVATE
-    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wcast-align
-    $<$<BOOL:${VELKORD_WERROR}>:-Werror>)
+  if(NOT MSVC)
+    target_compile_options(${target} PRIVATE
+      -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wcast-align
+      $<$<BOOL:${VELKORD_WERROR}>:-Werror>)
+  endif()
 endfunction()

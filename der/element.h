@@ -9,6 +9,13 @@
 
 #include "der/result.h"
 
+// Seldom called, so that its code is kept apart.
+#if __has_cpp_attribute(gnu::cold)
+#define VELKORD_COLD [[gnu::cold]]
+#else
+#define VELKORD_COLD
+#endif
+
 namespace velkord::internal {
 
 using Bytes = std::span<const uint8_t>;
@@ -74,7 +81,7 @@ struct DerElement {
 
 // Opens the element at the front of `in`, whatever its header. 0, -1 or -2 as the parsers above.
 // It is kept out of the loops that read short headers.
-[[gnu::cold]] int32_t DerOpenAnyElement(Bytes in, DerElement& element);
+VELKORD_COLD int32_t DerOpenAnyElement(Bytes in, DerElement& element);
 
 // Opens the element at the front of `in` if its header is short, as nearly all are: a tag of one
 // octet, and one length octet, or one or two after the octet that counts them. False for any other
@@ -175,7 +182,7 @@ class DerElements {
     rest_ = rest_.subspan(child.whole.size());
     return VELKORD_OK;
   }
-  [[gnu::cold]] int32_t NextOfAnyHeader(DerElement& child);
+  VELKORD_COLD int32_t NextOfAnyHeader(DerElement& child);
 
   Bytes rest_;
 };

@@ -71,7 +71,7 @@ ITEMS = re.compile(
     rf"|(?P<text>(?:///.*\n)+)"
     rf"|enum \{{(?P<constants>[^}}]*)\}};"
     rf"|typedef struct (?P<record>\w+) \{{(?P<fields>[^}}]*)\}} (?P=record);"
-    rf"|VELKORD_API (?P<result>\w+\**) (?P<function>\w+)\((?P<arguments>[^)]*)\);"
+    rf"|VELKORD_API (?P<result>\w+\**) VELKORD_CALL\s+(?P<function>\w+)\((?P<arguments>[^)]*)\);"
 )
 CONSTANT = re.compile(r"\s*(\w+) = (-?\d+),?((?:\s*///<.*)*)")
 DECLARATION = re.compile(r"\s*(const )?(?:struct )?(\w+)(\**) (\w+)(?:\[(\d+)\])?\s*")

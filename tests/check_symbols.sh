@@ -28,7 +28,7 @@ case $1 in
     allowed=libc.so.6
     ;;
 esac
-diff <(sed -nE 's/^VELKORD_API .*\b(\w+)\(.*/\1/p' "$header" | sort) <(sort <<<"$names") || {
+diff <(grep -zoP 'VELKORD_CALL\s+\K\w+(?=\()' "$header" | tr '\0' '\n' | sort) <(sort <<<"$names") || {
   echo "The names of $1 (>) are not those of the header (<)." >&2
   exit 1
 }
