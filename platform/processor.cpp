@@ -32,12 +32,17 @@ struct Leaf {
 
 constexpr bool HasBit(uint32_t word, uint32_t bit) { return (word >> bit & 1) != 0; }
 
-// By the bits of the leaves 1 and 7 that may be used. AVX2 comes with SSSE3.
-inline X86Features FromLeaves(const Leaf& leaf1, const Leaf& leaf7) {
+// By the bits of leaf 7 that may be used.
+inline X86Set FromLeaf7(const Leaf& leaf) {
   constexpr uint32_t kAvx512FAndBw = 1U << 16 | 1U << 30;
-  const bool avx2 = HasBit(leaf7.ebx, 5);
-  return {avx2 || HasBit(leaf1.ecx, 9), avx2,
-          (leaf7.ebx & kAvx512FAndBw) == kAvx512FAndBw && HasBit(leaf7.ecx, 1)};
+  if (!HasBit(leaf.ebx, 5)) return X86Set::kBase;
+  const bool vbmi = (leaf.ebx & kAvx512FAndBw) == kAvx512FAndBw && HasBit(leaf.ecx, 1);
+  return vbmi ? X86Set::kAvx512Vbmi : X86Set::kAvx2;
+}
+
+// By those of leaf 1.
+inline X86Set FromLeaf1(const Leaf& leaf) {
+  return HasBit(leaf.ecx, 9) ? X86Set::kSsse3 : X86Set::kBase;
 }
 
 // A leaf that the processor does not have is all zeros.
@@ -68,15 +73,14 @@ uint32_t KeptRegisters() {
 #endif
 }
 
-X86Features ReadFeatures() {
+X86Set ReadSet() {
   constexpr uint32_t kKeptForAvx = 0x06;
   constexpr uint32_t kKeptForAvx512 = 0xE6;
   const Leaf leaf1 = ReadLeaf(1);
-  X86Features features = FromLeaves(leaf1, ReadLeaf(7));
   const uint32_t kept = HasBit(leaf1.ecx, 27) ? KeptRegisters() : 0;  // Bit 27: it may be asked.
-  features.avx2 = features.avx2 && (kept & kKeptForAvx) == kKeptForAvx;
-  features.avx512Vbmi = features.avx512Vbmi && (kept & kKeptForAvx512) == kKeptForAvx512;
-  return features;
+  const X86Set found = FromLeaf7(ReadLeaf(7));
+  if (found == X86Set::kBase || (kept & kKeptForAvx) != kKeptForAvx) return FromLeaf1(leaf1);
+  return (kept & kKeptForAvx512) == kKeptForAvx512 ? found : X86Set::kAvx2;
 }
 
 }  // namespace
@@ -102,31 +106,28 @@ namespace velkord::internal {
 namespace {
 
 #if defined(__GLIBC__)
-bool KnowsFeatures() { return __x86_get_cpuid_feature_leaf != nullptr; }
-X86Features KnownFeatures() {
-  const Leaf& leaf7 = __x86_get_cpuid_feature_leaf(1)->active;
-  const X86Features features = FromLeaves(Leaf{}, leaf7);
+bool PlatformKnows() { return __x86_get_cpuid_feature_leaf != nullptr; }
+X86Set AskPlatform() {
+  const X86Set set = FromLeaf7(__x86_get_cpuid_feature_leaf(1)->active);
   // Most need one call alone.
-  return features.avx2 ? features : FromLeaves(__x86_get_cpuid_feature_leaf(0)->active, leaf7);
+  return set != X86Set::kBase ? set : FromLeaf1(__x86_get_cpuid_feature_leaf(0)->active);
 }
 #elif defined(_WIN32)
 // By number, since headers have their names late. Windows 10 of 2020 knows both, an older one none.
-bool KnowsFeatures() { return IsProcessorFeaturePresent(36) != 0; }  // SSSE3
-X86Features KnownFeatures() { return {true, IsProcessorFeaturePresent(40) != 0, false}; }
+bool PlatformKnows() { return IsProcessorFeaturePresent(36) != 0; }  // SSSE3
+X86Set AskPlatform() { return IsProcessorFeaturePresent(40) != 0 ? X86Set::kAvx2 : X86Set::kSsse3; }
 #else
-bool KnowsFeatures() { return false; }
-X86Features KnownFeatures() { return {}; }
+bool PlatformKnows() { return false; }
+X86Set AskPlatform() { return X86Set::kBase; }
 #endif
 
 }  // namespace
 
-X86Features AskForX86Features(size_t octets) {
-  return KnowsFeatures() ? KnownFeatures() : AskX86Processor(octets);
+X86Set AskForX86Set(size_t octets) {
+  return PlatformKnows() ? AskPlatform() : AskX86Processor(octets);
 }
 
-X86Features AskX86Processor(size_t octets) {
-  return octets < kPaysForCpuid ? X86Features() : ReadFeatures();
-}
+X86Set AskX86Processor(size_t octets) { return octets < kPaysForCpuid ? X86Set::kBase : ReadSet(); }
 
 }  // namespace velkord::internal
 

@@ -10,18 +10,15 @@
 
 namespace velkord::internal {
 
-// Sets of instructions that the processor has and the system lets programs use.
-struct X86Features {
-  bool ssse3 = false;
-  bool avx2 = false;
-  bool avx512Vbmi = false;  // With AVX512F and AVX512BW.
-};
+// Sets of instructions that the processor has and the system lets programs use, each with those in
+// front of it.
+enum class X86Set { kBase, kSsse3, kAvx2, kAvx512Vbmi };
 
-// By the platform. Where it does not know them, by the processor.
-X86Features AskForX86Features(size_t octets);
+// By the platform. Where it does not know, by the processor.
+X86Set AskForX86Set(size_t octets);
 
-// By the processor itself, if a work on that many octets pays for the question; otherwise none.
-X86Features AskX86Processor(size_t octets);
+// By the processor itself, if a work on that many octets pays for the question; otherwise the base.
+X86Set AskX86Processor(size_t octets);
 
 }  // namespace velkord::internal
 

@@ -75,6 +75,7 @@ size_t LineEndSize(std::string_view text) {
 
 size_t DecodeCleanGroups(const Base64Kernel& kernel, std::string_view text, uint8_t* out) {
   const size_t taken = kernel.decode(text.data(), text.size(), out);
+  if (text.size() - taken < 4) return taken;
   text.remove_prefix(taken);
   return taken + DecodeGroups(text.data(), text.size(), out + taken / 4 * 3);
 }
@@ -90,14 +91,13 @@ std::span<const Base64Kernel> Base64Kernels(size_t octets) {
 #endif
     {EncodeGroups, EncodeLines, DecodeGroups, DecodeLines}
   };
-  size_t missing = 0;
 #if defined(VELKORD_X86)
-  const X86Features features = octets < kShortText ? X86Features() : AskForX86Features(octets);
-  if (!features.avx512Vbmi) missing = features.avx2 ? 1 : features.ssse3 ? 2 : 3;
+  const X86Set set = octets < kShortText ? X86Set::kBase : AskForX86Set(octets);
+  return std::span(kKernels).subspan(3 - static_cast<size_t>(set));
 #else
   static_cast<void>(octets);
+  return kKernels;
 #endif
-  return std::span(kKernels).subspan(missing);
 }
 
 char* PutBase64(const Base64Kernel& kernel, const uint8_t* in, size_t size, char* place) {
@@ -121,37 +121,46 @@ char* PutBase64(const Base64Kernel& kernel, const uint8_t* in, size_t size, char
 
 // Moves past characters that the kernel took, of which the last group ends at `end`.
 void Base64Decoder::MoveOn(std::string_view& text, size_t taken, size_t end, size_t bytes) {
-  for (size_t at = 0; at < 4; ++at) indexes_[at] = Base64Value(text[end - 4 + at]);
+  const char* last = text.data() + end - 4;
+  const uint8_t indexes[] = {Base64Value(last[0]), Base64Value(last[1]), Base64Value(last[2]),
+                             Base64Value(last[3])};
+  std::memcpy(indexes_, indexes, sizeof(indexes));
   text.remove_prefix(taken);
   place_ += bytes;
 }
 
-bool Base64Decoder::TakeByKernel(std::string_view& text) {
+void Base64Decoder::TakeByKernel(std::string_view& text) {
   const size_t lineEnd = invalid_ == Invalid::kSkipped ? LineEndSize(text) : 0;
   if (lineEnd != 0) {
     const size_t width = kLineCharacters + lineEnd;
     const size_t lines = kernel_.decodeLines(text.data(), text.size() / width, lineEnd, place_);
-    if (lines != 0) {
-      MoveOn(text, lines * width, lines * width - lineEnd, lines * kLineBytes);
-      return true;
-    }
+    if (lines != 0) MoveOn(text, lines * width, lines * width - lineEnd, lines * kLineBytes);
   }
   const size_t taken = DecodeCleanGroups(kernel_, text, place_);
   if (taken != 0) MoveOn(text, taken, taken, taken / 4 * 3);
-  return taken != 0;
 }
 
 bool Base64Decoder::Decode(std::string_view text) {
+  // The kernel stops in front of a group that is not for it.
+  bool forKernel = true;
   while (!text.empty()) {
     const uint8_t value = Base64Value(text.front());
     // At an invalid character the kernel would read a block for nothing.
-    if (filled_ == 0 && value < kBase64Padding && TakeByKernel(text)) continue;
+    if (forKernel && filled_ == 0 && value < kBase64Padding) {
+      TakeByKernel(text);
+      forKernel = false;
+      continue;
+    }
     text.remove_prefix(1);
-    if (value == kNotBase64 && invalid_ == Invalid::kSkipped) continue;
+    if (value == kNotBase64 && invalid_ == Invalid::kSkipped) {
+      forKernel = true;
+      continue;
+    }
     if (value < kBase64Padding) indexes_[filled_] = value;
     if (value == kBase64Padding) ++padding_;
     if (++filled_ < 4) continue;
     filled_ = 0;
+    forKernel = true;
     place_ = PutGroup(place_, indexes_, padding_ < 3 ? 3 - padding_ : 0);
     if (padding_ != 0) return false;
   }

@@ -34,8 +34,8 @@ class Base64Decoder {
   uint32_t Written() const { return static_cast<uint32_t>(place_ - out_); }
 
  private:
-  // Takes lines or groups of valid characters off the front. False when there are none.
-  bool TakeByKernel(std::string_view& text);
+  // Takes lines and groups of valid characters off the front.
+  void TakeByKernel(std::string_view& text);
   void MoveOn(std::string_view& text, size_t taken, size_t end, size_t bytes);
 
   const Base64Kernel& kernel_;

@@ -31,18 +31,24 @@ struct Avx2 : LaneAccess<Avx2> {
   static Block Load(const void* low, const void* high) {
     return _mm256_set_m128i(LoadLane(high), LoadLane(low));
   }
-  static Block LoadCharacters(const char* in) {
+  static Block LoadBlock(const void* in) {
     Block block;
     std::memcpy(&block, in, sizeof(block));
     return block;
   }
   static void Store(Block block, char* out) { std::memcpy(out, &block, sizeof(block)); }
-  // The first 12 octets of each lane, in two stores that overlap.
+  template <bool kLast>
   static void StoreGathered(Block block, uint8_t* out) {
-    const Block joined =
-        _mm256_permutevar8x32_epi32(block, _mm256_setr_epi32(0, 1, 2, 4, 2, 4, 5, 6));
-    StoreLane(_mm256_castsi256_si128(joined), out);
-    StoreLane(_mm256_extracti128_si256(joined, 1), out + 8);
+    if constexpr (kLast) {
+      // In two stores that overlap.
+      const Block joined =
+          _mm256_permutevar8x32_epi32(block, _mm256_setr_epi32(0, 1, 2, 4, 2, 4, 5, 6));
+      StoreLane(_mm256_castsi256_si128(joined), out);
+      StoreLane(_mm256_extracti128_si256(joined, 1), out + 8);
+    } else {
+      StoreLane(_mm256_castsi256_si128(block), out);
+      StoreLane(_mm256_extracti128_si256(block, 1), out + 12);
+    }
   }
 
   static Block Words(int32_t word) { return _mm256_set1_epi32(word); }
@@ -64,7 +70,10 @@ struct Avx2 : LaneAccess<Avx2> {
   static Block MultiplyLow(Block a, Block b) { return _mm256_mullo_epi16(a, b); }
   static Block MultiplyAddOctets(Block a, Block b) { return _mm256_maddubs_epi16(a, b); }
   static Block MultiplyAddPairs(Block a, Block b) { return _mm256_madd_epi16(a, b); }
-  static bool AllZero(Block a) { return _mm256_testz_si256(a, a) != 0; }
+  static Block Least(Block a, Block b) { return _mm256_min_epu8(a, b); }
+  static bool AnyZero(Block a) {
+    return _mm256_movemask_epi8(_mm256_cmpeq_epi8(a, _mm256_setzero_si256())) != 0;
+  }
 };
 
 }  // namespace

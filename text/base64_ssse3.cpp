@@ -32,15 +32,21 @@ struct Ssse3 : LaneAccess<Ssse3> {
   };
 
   static Block Load(const void* low, const void* high) { return {LoadLane(low), LoadLane(high)}; }
-  static Block LoadCharacters(const char* in) { return Load(in, in + 16); }
+  static Block LoadBlock(const char* in) { return Load(in, in + 16); }
+  static Block LoadBlock(const uint8_t* in) { return Load(in, in + 16); }
   static void Store(Block block, char* out) {
     StoreLane(block.low, out);
     StoreLane(block.high, out + 16);
   }
-  // The first 12 octets of each lane.
+  template <bool kLast>
   static void StoreGathered(Block block, uint8_t* out) {
-    StoreLane(_mm_or_si128(block.low, _mm_slli_si128(block.high, 12)), out);
-    StoreHalfLane(_mm_srli_si128(block.high, 4), out + 16);
+    if constexpr (kLast) {
+      StoreLane(_mm_or_si128(block.low, _mm_slli_si128(block.high, 12)), out);
+      StoreHalfLane(_mm_srli_si128(block.high, 4), out + 16);
+    } else {
+      StoreLane(block.low, out);
+      StoreLane(block.high, out + 12);
+    }
   }
 
   static Block Words(int32_t word) { return {_mm_set1_epi32(word), _mm_set1_epi32(word)}; }
@@ -88,9 +94,12 @@ struct Ssse3 : LaneAccess<Ssse3> {
   static Block MultiplyAddPairs(Block a, Block b) {
     return {_mm_madd_epi16(a.low, b.low), _mm_madd_epi16(a.high, b.high)};
   }
-  static bool AllZero(Block a) {
-    const __m128i any = _mm_or_si128(a.low, a.high);
-    return _mm_movemask_epi8(_mm_cmpeq_epi8(any, _mm_setzero_si128())) == 0xFFFF;
+  static Block Least(Block a, Block b) {
+    return {_mm_min_epu8(a.low, b.low), _mm_min_epu8(a.high, b.high)};
+  }
+  static bool AnyZero(Block a) {
+    const __m128i least = _mm_min_epu8(a.low, a.high);
+    return _mm_movemask_epi8(_mm_cmpeq_epi8(least, _mm_setzero_si128())) != 0;
   }
 };
 

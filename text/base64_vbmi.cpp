@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <utility>
 
 #include "text/base64_alphabet.h"
 
@@ -113,12 +114,14 @@ inline __m512i EncodeBlock(__m512i bytes) {
   return _mm512_permutexvar_epi8(indexes, Load(kCharacters));
 }
 
-// The indexes of characters. `invalid` has the bits of those that are none of the alphabet.
-inline __m512i LookUp(__m512i characters, __mmask64& invalid) {
+// The indexes of characters. For one that is none of the alphabet its octet of `marks` gets the
+// high bit.
+inline __m512i LookUp(__m512i characters, __m512i& marks) {
   const __m512i indexes =
       _mm512_permutex2var_epi8(Load(kLowIndexes), characters, Load(kHighIndexes));
-  // The lookup takes 7 bits of a character, so that its eighth is looked at here.
-  invalid = _mm512_movepi8_mask(_mm512_or_si512(indexes, characters));
+  // The lookup takes 7 bits of a character, so that its eighth is looked at here: this is the OR of
+  // all three.
+  marks = _mm512_ternarylogic_epi32(marks, indexes, characters, 0xFE);
   return indexes;
 }
 
@@ -127,6 +130,17 @@ inline __m512i Gather(__m512i indexes) {
   const __m512i pairs = _mm512_maddubs_epi16(indexes, _mm512_set1_epi32(0x01400140));
   const __m512i groups = _mm512_madd_epi16(pairs, _mm512_set1_epi32(0x00011000));
   return _mm512_permutexvar_epi8(Load(kGather), groups);
+}
+
+// Decodes a block for each of the places, which are 0, 1 and so on. False when one of them holds an
+// invalid character; then nothing is written.
+template <size_t... kPlaces>
+inline bool DecodeRun(const char* in, uint8_t* out, std::index_sequence<kPlaces...> /*places*/) {
+  __m512i marks = _mm512_setzero_si512();
+  const __m512i blocks[] = {LookUp(_mm512_loadu_si512(in + kPlaces * kBlockCharacters), marks)...};
+  if (_mm512_movepi8_mask(marks) != 0) return false;
+  (StoreFirst(kBlockBytes, Gather(blocks[kPlaces]), out + kPlaces * kBlockBytes), ...);
+  return true;
 }
 
 }  // namespace
@@ -150,30 +164,35 @@ void EncodeBase64LinesVbmi(const uint8_t* in, size_t lines, char* out) {
 }
 
 size_t DecodeBase64Vbmi(const char* in, size_t size, uint8_t* out) {
+  constexpr size_t kAtOnce = 4;
   size_t taken = 0;
-  __mmask64 invalid;
-  for (; size - taken >= kBlockCharacters; taken += kBlockCharacters, out += kBlockBytes) {
-    const __m512i indexes = LookUp(_mm512_loadu_si512(in + taken), invalid);
-    if (invalid != 0) break;
-    StoreFirst(kBlockBytes, Gather(indexes), out);
+  while (size - taken >= kAtOnce * kBlockCharacters &&
+         DecodeRun(in + taken, out, std::make_index_sequence<kAtOnce>())) {
+    taken += kAtOnce * kBlockCharacters;
+    out += kAtOnce * kBlockBytes;
+  }
+  while (size - taken >= kBlockCharacters && DecodeRun(in + taken, out, std::index_sequence<0>())) {
+    taken += kBlockCharacters;
+    out += kBlockBytes;
   }
   // The groups of the last block in front of what is invalid or beyond the end.
   const size_t rest = std::min(size - taken, kBlockCharacters);
   if (rest == 0) return taken;
-  const __m512i indexes = LookUp(LoadFirst(rest, in + taken), invalid);
-  invalid |= ~FirstOctets(rest);
-  const size_t groups = static_cast<size_t>(std::countr_zero(uint64_t{invalid})) / 4;
+  __m512i marks = _mm512_setzero_si512();
+  const __m512i indexes = LookUp(LoadFirst(rest, in + taken), marks);
+  const uint64_t invalid = _mm512_movepi8_mask(marks) | ~FirstOctets(rest);
+  const size_t groups = static_cast<size_t>(std::countr_zero(invalid)) / 4;
   StoreFirst(3 * groups, Gather(indexes), out);
   return taken + 4 * groups;
 }
 
 size_t DecodeBase64LinesVbmi(const char* in, size_t lines, size_t lineEnd, uint8_t* out) {
   size_t taken = 0;
-  for (; taken < lines; ++taken, in += kLineCharacters + lineEnd, out += kLineBytes) {
-    __mmask64 invalid;
-    const __m512i indexes = LookUp(_mm512_loadu_si512(in), invalid);
-    if (invalid != 0 || !IsLineEnd(in + kLineCharacters, lineEnd)) break;
-    StoreFirst(kLineBytes, Gather(indexes), out);
+  while (taken < lines && IsLineEnd(in + kLineCharacters, lineEnd) &&
+         DecodeRun(in, out, std::index_sequence<0>())) {
+    ++taken;
+    in += kLineCharacters + lineEnd;
+    out += kLineBytes;
   }
   return taken;
 }
