@@ -27,18 +27,23 @@ void ExpectSameInPlace(const ByteVector& input, size_t room, size_t step, const 
   EXPECT_NE(apart, "");
 }
 
+// What is at a place that is aligned for it.
+template <typename Object>
+Object* At(void* place) {
+  return static_cast<Object*>(place);
+}
+
 template <typename Key>
 void EncodeInPlace(int32_t (*encode)(const Key*, uint8_t*, uint32_t*), size_t room) {
-  ExpectSameInPlace(Numbered("", sizeof(Key)), room, 4, [=](auto* in, auto, auto* out, auto* size) {
-    encode(reinterpret_cast<Key*>(in), out, size);
-  });
+  ExpectSameInPlace(Numbered("", sizeof(Key)), room, 4,
+                    [=](auto* in, auto, auto* out, auto* size) { encode(At<Key>(in), out, size); });
 }
 
 // `decode` has a key as its last argument.
 template <typename Key, typename Decode>
 void DecodeInPlace(const ByteVector& der, Decode decode) {
   ExpectSameInPlace(der, sizeof(Key), 4, [=](auto* in, auto size, auto* out, auto* written) {
-    decode(in, size, reinterpret_cast<Key*>(out));
+    decode(in, size, At<Key>(out));
     *written = sizeof(Key);
   });
 }
@@ -82,7 +87,7 @@ TEST(InPlace, PairsAreAsApart) {
     // The length of the first number too may lie over the second one.
     ExpectSameInPlace(FromHex(der), 12, 4,
                       [read = decode](auto* in, auto size, auto* out, auto* written) {
-                        read(out + 4, reinterpret_cast<uint32_t*>(out), out + 8, written, in, size);
+                        read(out + 4, At<uint32_t>(out), out + 8, written, in, size);
                         *written += 8;
                       });
     ExpectSameInPlace(FromHex(der), 8, 1,

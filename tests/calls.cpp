@@ -94,11 +94,11 @@ std::string Set(const RecordType& type, void* record, const std::string& step) {
   const std::string value = step.substr(name.size() + 1);
   for (const RecordType::Field& field : type.fields) {
     if (name != field.name) continue;
-    auto* place = static_cast<uint8_t*>(record) + field.offset;
+    void* place = static_cast<uint8_t*>(record) + field.offset;
     if (field.isNode) {
-      ASN1_FreeAnybuf(std::exchange(*reinterpret_cast<Anybuf**>(place), nullptr));
+      ASN1_FreeAnybuf(std::exchange(*static_cast<Anybuf**>(place), nullptr));
     } else {
-      *reinterpret_cast<uint32_t*>(place) = static_cast<uint32_t>(std::stoul(value));
+      *static_cast<uint32_t*>(place) = static_cast<uint32_t>(std::stoul(value));
     }
     return "";
   }

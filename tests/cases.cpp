@@ -6,11 +6,11 @@
 
 namespace {
 
-// A result with its counts, quoted texts and samples written out in hexadecimal.
+// A result with its counts, quoted texts, numbers and samples written out in hexadecimal.
 std::string Expand(const std::string& result) {
   std::string text;
   for (const std::string& word : Split(result, " ")) {
-    const bool isShort = word.find_first_of("*\"@") != std::string::npos;
+    const bool isShort = word.find_first_of("*\"#@") != std::string::npos;
     const size_t start = isShort ? word.find('=') + 1 : word.size();
     const ByteVector bytes = FromHex(word.substr(start));
     text += word.substr(0, start) + ToHex(bytes.data(), bytes.size()) + ' ';

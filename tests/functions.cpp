@@ -107,11 +107,11 @@ std::string RecordType::Describe(const void* record) const {
   ByteVector between(static_cast<const uint8_t*>(record),
                      static_cast<const uint8_t*>(record) + size);
   for (const Field& field : fields) {
-    const uint8_t* place = static_cast<const uint8_t*>(record) + field.offset;
+    const void* place = static_cast<const uint8_t*>(record) + field.offset;
     std::fill_n(&between[field.offset], field.size, uint8_t{0});
     std::string value = "0";
-    if (field.isNode) value = ::Describe(*reinterpret_cast<Anybuf* const*>(place));
-    if (field.isNumber) value = std::to_string(*reinterpret_cast<const int32_t*>(place));
+    if (field.isNode) value = ::Describe(*static_cast<Anybuf* const*>(place));
+    if (field.isNumber) value = std::to_string(*static_cast<const int32_t*>(place));
     if (value != "none" && value != "0") text += field.name + "=" + value + " ";
   }
   EXPECT_EQ(between, ByteVector(size));

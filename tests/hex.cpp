@@ -1,5 +1,6 @@
 #include "hex.h"
 
+#include <cstring>
 #include <fstream>
 #include <iterator>
 #include <sstream>
@@ -28,6 +29,11 @@ ByteVector FromHex(const std::string& hex) {
     } else if (octet[0] == '@') {
       const std::string sample = Sample(octet.substr(1));
       bytes.insert(bytes.end(), sample.begin(), sample.end());
+    } else if (octet[0] == '#') {
+      uint8_t number[4];
+      const auto value = static_cast<uint32_t>(std::stoul(octet.substr(1)));
+      std::memcpy(number, &value, sizeof(number));
+      bytes.insert(bytes.end(), number, number + sizeof(number));
     } else {
       const size_t count = octet.size() > 3 ? std::stoul(octet.substr(3)) : 1;
       bytes.insert(bytes.end(), count, static_cast<uint8_t>(std::stoul(octet, nullptr, 16)));

@@ -25,8 +25,9 @@ struct FreeWith {
 using NodePtr = std::unique_ptr<Anybuf, FreeWith<ASN1_FreeAnybuf>>;
 
 // Hexadecimal octets with blanks between them, "05 00", to bytes and back. `FF*200` is 200 octets,
-// `"CN"` the octets of a text without blanks, and `@name:4:20` 20 bytes of a sample file from
-// offset 4 on, or the whole file without the numbers.
+// `"CN"` the octets of a text without blanks, `#256` those of a number of 32 bits in the order of
+// the processor, and `@name:4:20` 20 bytes of a sample file from offset 4 on, or the whole file
+// without the numbers.
 ByteVector FromHex(const std::string& hex);
 std::string ToHex(const uint8_t* bytes, size_t size);
 

@@ -24,7 +24,7 @@ Invocation::~Invocation() {
   }
 }
 
-uint8_t* Invocation::TakeOut(Kind kind, uint32_t fixedSize) {
+void* Invocation::TakeOut(Kind kind, uint32_t fixedSize) {
   const bool isBuffer = kind == Kind::kBytes || kind == Kind::kText;
   sizeIsNext_ = isBuffer && isSize_[at_];
   const bool hasRoom = isBuffer && (fixedSize == 0 || isSize_[at_] || isInteger_[at_]);

@@ -6,6 +6,7 @@
 #define VELKORD_TESTS_INVOCATION_H_
 
 #include <array>
+#include <cstring>
 #include <optional>
 #include <tuple>
 #include <type_traits>
@@ -110,7 +111,9 @@ class Invocation {
     ByteVector Bytes() const;
     template <typename Value>
     Value As() const {
-      return *reinterpret_cast<const Value*>(buffer.bytes.data());
+      Value value;
+      std::memcpy(&value, buffer.bytes.data(), sizeof(value));
+      return value;
     }
 
     Kind kind = Kind::kNode;
@@ -152,9 +155,10 @@ class Invocation {
       if (subject_ != nullptr) before_.assign(bytes, bytes + sizeof(Record));
       return static_cast<Record*>(subject_);
     } else if constexpr (std::is_const_v<Record>) {
-      return reinterpret_cast<Record*>(in_.Bytes(sizeof(Record)).data);
+      const void* bytes = in_.Bytes(sizeof(Record)).data;
+      return static_cast<Record*>(bytes);
     } else {
-      return reinterpret_cast<Record*>(TakeOut(Kind::kBytes, sizeof(Record)));
+      return static_cast<Record*>(TakeOut(Kind::kBytes, sizeof(Record)));
     }
   }
 
@@ -164,14 +168,14 @@ class Invocation {
                            : std::is_class_v<Object> ? Kind::kNode
                                                      : Kind::kBlock;
     in_.BeforeObject(sizeof(Object));
-    uint8_t* place = TakeOut(kKind, sizeof(Object*));
+    void* place = TakeOut(kKind, sizeof(Object*));
     LastOut().type = &TypeOf<Object>();
-    return reinterpret_cast<Object**>(place);
+    return static_cast<Object**>(place);
   }
-  uint8_t* Take(uint8_t**) { return TakeOut(Kind::kBytes, 1); }
-  char* Take(char**) { return reinterpret_cast<char*>(TakeOut(Kind::kText, 0)); }
+  uint8_t* Take(uint8_t**) { return static_cast<uint8_t*>(TakeOut(Kind::kBytes, 1)); }
+  char* Take(char**) { return static_cast<char*>(TakeOut(Kind::kText, 0)); }
   int32_t* Take(int32_t**) {
-    return reinterpret_cast<int32_t*>(TakeOut(Kind::kNumber, sizeof(int32_t)));
+    return static_cast<int32_t*>(TakeOut(Kind::kNumber, sizeof(int32_t)));
   }
   uint32_t* Take(uint32_t**) {
     if (!std::exchange(sizeIsNext_, false)) {
@@ -180,7 +184,7 @@ class Invocation {
     return IsNulled() ? nullptr : &LastOut().buffer.size;
   }
 
-  uint8_t* TakeOut(Kind kind, uint32_t fixedSize);  // Null when the argument is to be.
+  void* TakeOut(Kind kind, uint32_t fixedSize);  // Null when the argument is to be.
   Out& LastOut() { return outs_[outCount_ - 1]; }
   std::span<const Out> Outs() const { return std::span(outs_).first(outCount_); }
   bool IsNulled();

@@ -17,13 +17,14 @@ TEST(Threads, CallAllFamiliesOnObjectsOfTheirOwn) {
   }
   for (const auto& [zone, cases] : casesOfZone) {
     SetZone(zone);
-    std::vector<std::jthread> threads;
+    std::vector<std::thread> threads;
     for (size_t number = 0; number < kThreads; ++number) {
       threads.emplace_back([&shared = cases, number] {
         const size_t first = number * shared.size() / kThreads;
         for (size_t at = 0; at < shared.size(); ++at) RunCase(shared[(first + at) % shared.size()]);
       });
     }
+    for (std::thread& thread : threads) thread.join();
   }
 }
 
