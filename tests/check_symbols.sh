@@ -24,7 +24,12 @@ case $1 in
     ;;
   *)
     names=$("${2%objdump}nm" -D --defined-only --format=posix "$1" | sed '/^VELKORD_1/d; s/@@VELKORD_1 .*//')
-    needed=$("$2" -p "$1" | sed -n 's/.*NEEDED *//p')
+    headers=$("$2" -p "$1")
+    needed=$(sed -n 's/.*NEEDED *//p' <<<"$headers")
+    if [[ $headers == *GLIBC_2.33* ]]; then
+      echo "$1 does not load with a C library of before 2.33." >&2
+      exit 1
+    fi
     allowed='libc\.(so\.6|so|musl-.*\.so\.1)'
     ;;
 esac
