@@ -18,14 +18,6 @@ void FillObjectId(std::span<uint8_t> room, std::string_view text) {
   ForEachObjectIdOctet(text, [&](uint8_t octet) { writer.Put(octet); });
 }
 
-bool IsObjectId(Bytes content, std::string_view text) {
-  size_t at = 0;
-  bool same = true;
-  const bool accepted = ForEachObjectIdOctet(
-      text, [&](uint8_t octet) { same = same && at < content.size() && content[at++] == octet; });
-  return accepted ? same && at == content.size() : content.empty();
-}
-
 int32_t CallerText(const char* text, int32_t length, std::string_view& out) {
   if (text == nullptr) return VELKORD_NULL_ARGUMENT;
   out = std::string_view(text, length < 0 ? 0 : static_cast<size_t>(length));

@@ -38,14 +38,11 @@ constexpr bool ForEachObjectIdOctet(std::string_view text, Sink sink) {
 }
 
 // Number of content octets of the dotted text; 0 for a text that is refused, which stands for an
-// identifier without content in the functions below too.
+// identifier without content.
 uint32_t ObjectIdSize(std::string_view text);
 
 // Fills a room of that size with the octets.
 void FillObjectId(std::span<uint8_t> room, std::string_view text);
-
-// Whether `content` is exactly those octets.
-bool IsObjectId(Bytes content, std::string_view text);
 
 // A view of a caller's text, empty when the length is negative. 0, or -8 for a null pointer.
 int32_t CallerText(const char* text, int32_t length, std::string_view& out);

@@ -84,6 +84,36 @@ int32_t OpenExtensionList(const Anybuf& field, DerElements& extensions) {
   return extensions.Open(list.whole, kSequenceType);
 }
 
+// Takes the next extension whose identifier has `size` octets, the first of them those of `start`.
+bool NextExtension(DerElements& extensions, size_t size, Bytes start, ExtensionView& extension) {
+  DerElement element;
+  while (extensions.Next(element) == VELKORD_OK) {
+    if (OpenExtension(element.whole, extension) == VELKORD_OK && extension.oid.size() == size &&
+        std::equal(start.begin(), start.end(), extension.oid.begin())) {
+      return true;
+    }
+  }
+  return false;
+}
+
+// Takes the first extension whose identifier is that of the text. One that agrees with the octets
+// so far stands until it differs in one, and then gives way to the next that agrees with them, so
+// that the text is not read anew for each extension.
+bool FindExtension(DerElements& extensions, std::string_view text, ExtensionView& extension) {
+  const size_t size = ObjectIdSize(text);
+  bool found = NextExtension(extensions, size, Bytes(), extension);
+  // A refused text stands for no octets, but would give those of its first arcs.
+  if (size == 0) return found;
+  size_t at = 0;
+  ForEachObjectIdOctet(text, [&](uint8_t octet) {
+    while (found && extension.oid[at] != octet) {
+      found = NextExtension(extensions, size, extension.oid.first(at), extension);
+    }
+    ++at;
+  });
+  return found;
+}
+
 }  // namespace
 
 X509Cert* X509CertCreate(X509Cert** out) {
@@ -138,12 +168,11 @@ int32_t X509CertGetOIDValue(const X509Cert* record, const char* oidText, int32_t
 
   DerElements extensions;
   if (OpenExtensionList(*field, extensions) != VELKORD_OK) return VELKORD_OK;
-  DerElement element;
-  while (extensions.Next(element) == VELKORD_OK) {
-    ExtensionView extension;
-    if (OpenExtension(element.whole, extension) == VELKORD_OK && IsObjectId(extension.oid, text)) {
-      CopyItemValue(extension.value, value, valueLength);
-    }
+  ExtensionView extension;
+  bool found = FindExtension(extensions, text, extension);
+  while (found) {
+    CopyItemValue(extension.value, value, valueLength);
+    found = NextExtension(extensions, extension.oid.size(), extension.oid, extension);
   }
   return VELKORD_OK;
 }
