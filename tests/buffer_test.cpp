@@ -1,4 +1,7 @@
-// Callers' buffers: outputs that lie over their input, and sizes that none can have.
+// Callers' buffers and nodes: outputs that lie over their input, sizes that none can have, and a
+// node that the library did not make.
+#include <cstdlib>
+
 #include "hex.h"
 
 namespace {
@@ -71,7 +74,17 @@ TEST(InPlace, ValuesAreAsApart) {
   ExpectSameInPlace(number, 8, 1, [](auto* in, auto size, auto* out, auto* written) {
     ASN1_SM2_PrikeyDecode(out, written, in, size);
   });
+  ExpectSameInPlace(number, 8, 1, [](auto* in, auto size, auto* out, auto* written) {
+    const Anybuf node = {in, size, 0, 2, 2, nullptr, nullptr};
+    uint32_t tag = 0;
+    ASN1_ReadExplicitToBytes(&node, out, written, &tag);
+  });
   ExpectSameInPlace(Numbered("", 32), 40, 1, ASN1_SM2_PrikeyEncode);
+  ByteVector text = FromHex("1E 06 4E 2D 00 41 56 FD");
+  const Anybuf node = {text.data(), Size(text), 0, 2, 30, nullptr, nullptr};
+  uint32_t size = 0;
+  ASN1_ReadBmpStringToBytes(&node, text.data(), &size);
+  EXPECT_EQ(ToHex(text.data(), size), "4E 2D 41 56 FD");
 }
 
 // Two numbers from one buffer to one.
@@ -109,9 +122,46 @@ TEST(Sizes, BeyondTheirWidthAreRefused) {
   ASN1_SM2_PrikeyEncode(&byte, 0xFFFFFFFF, &byte, &size);
   ASN1_SM2_PubkeyEncode(&byte, 0xFFFFFFFF, &byte, 1, &byte, &size);
   EXPECT_EQ(size, 7U);
-  ZantPublicKey key = {{7}, {8}};
-  EXPECT_EQ(ZantDecodePublicKey(&key, &byte, INT32_MIN), -1);
-  EXPECT_EQ(key.modulus[0] + key.publicExponent[0], 15);
+}
+
+template <typename Key>
+void ExpectRefused(int32_t (*decode)(Key*, const uint8_t*, int32_t), int32_t length) {
+  const ByteVector der = FromHex("30 06 02 01 05 02 01 03");
+  Buffer key(sizeof(Key));
+  EXPECT_EQ(decode(reinterpret_cast<Key*>(key.Data()), der.data(), length), -1);
+  EXPECT_TRUE(key.IsUntouched(0));
+}
+
+// So is a length of 2^31 or more where it is signed. A key is refused, and a text is empty.
+TEST(Sizes, BelowZeroStandForNothing) {
+  for (const int32_t length : {-1, -2, INT32_MIN}) {
+    ExpectRefused(ZantDecodePublicKey, length);
+    ExpectRefused(ZantDecodePrivateKey, length);
+    Buffer out(16);
+    EXPECT_EQ(ASN1_OBJECT_a2d(out.Data(), &out.size, "1.2.3", length), 0);
+    EXPECT_EQ(utf8ToUni(FromHex("41").data(), length, &out.size), 0);
+    EXPECT_EQ(uniToUTF8(out.Data(), length, 0x41), -1);
+    EXPECT_EQ(out.size, Buffer::kNoSize);
+    zhsToUtf8s(FromHex("B0 A1").data(), length, out.Data(), &out.size);
+    EXPECT_EQ(out.size, 0U);
+    EXPECT_TRUE(out.IsUntouched(0));
+    const NodePtr value = ToNode("13 01 41");
+    const NodePtr name =
+        Make(ASN1_GetDerRelativeDistinguishedNameOne, value.get(), 7, "1.2.3", length);
+    EXPECT_EQ(Describe(name.get()), "31 07 30 05 06 00 13 01 41");
+  }
+}
+
+// A caller may build nodes. One without a block has no bytes, and a copy does not take the links.
+TEST(Nodes, MayBeTheCallers) {
+  auto* node = static_cast<Anybuf*>(std::malloc(sizeof(Anybuf)));
+  *node = {nullptr, 5, 0, 2, 4, nullptr, nullptr};
+  uint8_t octet = 0;
+  EXPECT_EQ(ASN1_ReadBoolean(node, &octet), -2);
+  EXPECT_EQ(Describe(Make(ASN1_WriteSequence, node).get()), "30 00");
+  Anybuf other = {&octet, 1, 0, 2, 4, node, node};
+  EXPECT_EQ(Describe(Make(ASN1_CreateSequence, &other).get()), "4: 00");
+  ASN1_FreeAnybuf(node);
 }
 
 }  // namespace
