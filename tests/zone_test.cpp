@@ -68,6 +68,17 @@ TEST_P(Zones, ReadWhatTheyWrite) {
   for (const int32_t time : {1483228825, 1483228826, 1483228827, INT32_MAX}) ExpectReadBack(time);
 }
 
+// While it is in the environment a zone is followed; without one no call looks for another.
+TEST(Zone, IsFollowedInTheEnvironmentAlone) {
+  const std::string text = "18 0F \"19700102000000Z\"";
+  SetZone("ABC-3");
+  EXPECT_EQ(Read(text), 86400 - 3 * 3600);
+  SetZone("XYZ-9:37");
+  EXPECT_EQ(Read(text), 86400 - 9 * 3600 - 37 * 60);
+  unsetenv("TZ");
+  EXPECT_EQ(Read(text), 86400 - 9 * 3600 - 37 * 60);
+}
+
 INSTANTIATE_TEST_SUITE_P(, Zones,
                          testing::Values("", "UTC", "right/UTC", "Asia/Shanghai",
                                          "America/New_York", "Europe/Dublin", "Australia/Lord_Howe",
