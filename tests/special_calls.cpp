@@ -59,10 +59,11 @@ std::string ListSubject(const Arguments& in) {
   return SubjectEntries(*record);
 }
 
-// An OID as text, and the content of an `extensions` field.
+// An OID as text, and the content of an `extensions` field, or the field itself under [3].
 std::string LookUp(const Arguments& in) {
   const Function& function = *FindFunction("X509CertGetOIDValue");
-  const auto record = Inspect(nullptr, in[1] == "none" ? nullptr : Sequence(in[1]));
+  const bool isField = in[1] == "none" || in[1].starts_with("A3 ");
+  const auto record = Inspect(nullptr, isField ? ToNode(in[1]) : Sequence(in[1]));
   const InspectionPtr empty(X509CertCreate(nullptr));
   EXPECT_EQ(Call(function, {in[0]}, nullptr), "-8");
   EXPECT_EQ(X509CertGetOIDValue(empty.get(), "", 0, nullptr, nullptr), -8);
