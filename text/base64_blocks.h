@@ -128,8 +128,14 @@ struct LaneAccess {
 
 template <typename Vector>
 VELKORD_ALWAYS_INLINE typename Vector::Block EncodeGroups(typename Vector::Block groups) {
-  // Each group of three bytes becomes 32 bits that hold it twice, so that one multiplication moves
-  // its first and third index into their octets, and another its second and fourth.
+  // 32 bits hold one byte of a group twice. With the bits of its indexes as letters, the highest bit
+  // first, a multiplication of either half moves one index down to its octet, and another one up:
+  //
+  //              b1       b2       b0       b1
+  //   groups     bbbbcccc ccdddddd aaaaaabb bbbbcccc
+  //   0FC0 FC00  ....cccc cc...... aaaaaa.. ........   down by 6, as 2^10, and by 10, as 2^6
+  //   003F 03F0  ........ ..dddddd ......bb bbbb....   up by 8, as 2^8, and by 4, as 2^4
+  //   indexes    00dddddd 00cccccc 00bbbbbb 00aaaaaa
   const auto firstAndThird = Vector::MultiplyHigh(Vector::And(groups, Vector::Words(0x0FC0FC00)),
                                                   Vector::Words(0x04000040));
   const auto secondAndFourth = Vector::MultiplyLow(Vector::And(groups, Vector::Words(0x003F03F0)),
@@ -168,7 +174,7 @@ VELKORD_ALWAYS_INLINE typename Vector::Block DecodeBlock(const char* in,
   const auto places = Vector::Add(high, Vector::Equal(characters, Vector::Table(kFilled<'/'>)));
   const auto indexes =
       Vector::Add(characters, Vector::Shuffle(Vector::Table(kIndexOffsets), places));
-  // Two indexes to 12 bits, two of those to 24.
+  // Two indexes to 12 bits, the first times 2^6, and two of those to 24, the first times 2^12.
   const auto pairs = Vector::MultiplyAddOctets(indexes, Vector::Words(0x01400140));
   return Vector::Shuffle(Vector::MultiplyAddPairs(pairs, Vector::Words(0x00011000)),
                          Vector::Table(kGather));

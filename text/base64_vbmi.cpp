@@ -126,7 +126,7 @@ inline __m512i LookUp(__m512i characters, __m512i& marks) {
 }
 
 inline __m512i Gather(__m512i indexes) {
-  // Two indexes to 12 bits, two of those to 24.
+  // Two indexes to 12 bits, the first times 2^6, and two of those to 24, the first times 2^12.
   const __m512i pairs = _mm512_maddubs_epi16(indexes, _mm512_set1_epi32(0x01400140));
   const __m512i groups = _mm512_madd_epi16(pairs, _mm512_set1_epi32(0x00011000));
   return _mm512_permutexvar_epi8(Load(kGather), groups);
