@@ -89,6 +89,9 @@ std::span<const Base64Kernel> Base64Kernels(size_t octets) {
     {EncodeBase64Avx2, EncodeBase64LinesAvx2, DecodeBase64Avx2, DecodeBase64LinesAvx2},
     {EncodeBase64Ssse3, EncodeBase64LinesSsse3, DecodeBase64Ssse3, DecodeBase64LinesSsse3},
 #endif
+#if defined(VELKORD_NEON)
+    {EncodeBase64Neon, EncodeBase64LinesNeon, DecodeBase64Neon, DecodeBase64LinesNeon},
+#endif
     {EncodeGroups, EncodeLines, DecodeGroups, DecodeLines}
   };
 #if defined(VELKORD_X86)

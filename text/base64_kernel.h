@@ -8,6 +8,11 @@
 
 #include "platform/processor.h"
 
+// Every AArch64 processor has NEON, so that there is nothing to ask.
+#if (defined(__AARCH64EL__) && defined(__ARM_NEON)) || defined(_M_ARM64)
+#define VELKORD_NEON
+#endif
+
 namespace velkord::internal {
 
 // A full line of PEM text, which ends with CR LF.
@@ -59,6 +64,12 @@ size_t EncodeBase64Ssse3(const uint8_t* in, size_t size, char* out);
 void EncodeBase64LinesSsse3(const uint8_t* in, size_t lines, char* out);
 size_t DecodeBase64Ssse3(const char* in, size_t size, uint8_t* out);
 size_t DecodeBase64LinesSsse3(const char* in, size_t lines, size_t lineEnd, uint8_t* out);
+#endif
+#if defined(VELKORD_NEON)
+size_t EncodeBase64Neon(const uint8_t* in, size_t size, char* out);
+void EncodeBase64LinesNeon(const uint8_t* in, size_t lines, char* out);
+size_t DecodeBase64Neon(const char* in, size_t size, uint8_t* out);
+size_t DecodeBase64LinesNeon(const char* in, size_t lines, size_t lineEnd, uint8_t* out);
 #endif
 
 }  // namespace velkord::internal
