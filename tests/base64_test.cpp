@@ -1,34 +1,47 @@
-// Every Base64 kernel of the processor against the rules of decoding, written out plainly.
+// Each Base64 kernel against the rules of decoding, written out plainly, and the choice of one.
 #include "text/base64.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cstdlib>
 #include <string>
 #include <vector>
 
 #include "Velkord.h"
+#include "fenced.h"
 #include "text/base64_alphabet.h"
 
 namespace {
 
 using namespace velkord::internal;
 
-std::span<const Base64Kernel> Kernels() { return Base64Kernels(SIZE_MAX); }
-
-constexpr size_t kAlignments = 32;
-
-// A block of its own with the content at its end, so that a sanitizer sees each step past it.
-struct Block {
-  Block(size_t front, std::string_view content)
-      : all(front + content.size()), text(all.data() + front) {
-    content.copy(text, content.size());
-  }
-  uint8_t* Bytes() const { return reinterpret_cast<uint8_t*>(text); }
-
-  std::vector<char> all;
-  char* text;
+struct NamedKernel {
+  const char* name;
+  decltype(Base64Kernel::encode) encode;  // The portable one's has no name.
 };
+
+// GoogleTest calls it by this name.
+void PrintTo(const NamedKernel& kernel, std::ostream* out) { *out << kernel.name; }
+
+constexpr NamedKernel kNamedKernels[] = {
+#if defined(VELKORD_X86)
+    {"Vbmi", EncodeBase64Vbmi}, {"Avx2", EncodeBase64Avx2}, {"Ssse3", EncodeBase64Ssse3},
+#endif
+#if defined(VELKORD_NEON)
+    {"Neon", EncodeBase64Neon},
+#endif
+    {"Portable", nullptr},
+};
+
+std::string NameOf(const Base64Kernel& kernel) {
+  for (const NamedKernel& named : kNamedKernels) {
+    if (named.encode == kernel.encode) return named.name;
+  }
+  return "Portable";
+}
+
+const Base64Kernel& PortableKernel() { return Base64Kernels(0).back(); }
 
 std::string Sample(uint32_t size) {
   std::string all;
@@ -36,10 +49,13 @@ std::string Sample(uint32_t size) {
   return all;
 }
 
-std::string Encode(const Base64Kernel& kernel, std::string_view bytes, size_t alignment) {
-  const Block in(alignment, bytes);
-  const Block out(alignment, std::string((bytes.size() + 2) / 3 * 4, 0));
-  return {out.text, PutBase64(kernel, in.Bytes(), bytes.size(), out.text)};
+size_t EncodedSize(size_t bytes) { return (bytes + 2) / 3 * 4; }
+
+std::string PlainEncode(std::string_view bytes) {
+  std::string text(EncodedSize(bytes.size()), 0);
+  PutBase64(PortableKernel(), reinterpret_cast<const uint8_t*>(bytes.data()), bytes.size(),
+            text.data());
+  return text;
 }
 
 std::string PlainDecode(const std::string& text, Invalid invalid) {
@@ -60,48 +76,77 @@ std::string PlainDecode(const std::string& text, Invalid invalid) {
   return bytes;
 }
 
-void ExpectDecoded(const std::string& text, size_t alignment) {
-  const Block in(alignment, text);
-  for (const Invalid invalid : {Invalid::kSkipped, Invalid::kTakePlaces}) {
-    const std::string bytes = PlainDecode(text, invalid);
-    for (const Base64Kernel& kernel : Kernels()) {
-      const Block out(alignment, std::string(text.size() / 4 * 3, 0));
-      Base64Decoder decoder(kernel, invalid, out.Bytes());
+uint8_t* Bytes(char* place) { return reinterpret_cast<uint8_t*>(place); }
+
+// Input and output lie between fences, and the output has room for the result alone.
+class Base64 : public testing::TestWithParam<NamedKernel> {
+ protected:
+  void SetUp() override {
+    for (const Base64Kernel& kernel : Base64Kernels(SIZE_MAX)) {
+      if (NameOf(kernel) == GetParam().name) kernel_ = &kernel;
+    }
+    if (kernel_ == nullptr) GTEST_SKIP() << "This processor does not have " << GetParam().name;
+  }
+
+  void ExpectEncoded(const std::string& bytes, const std::string& text, Side side) {
+    char* in = in_.Put(bytes, side);
+    char* out = out_.Clear(text.size(), side);
+    ASSERT_EQ(PutBase64(*kernel_, Bytes(in), bytes.size(), out), out + text.size());
+    ASSERT_EQ(std::string_view(out, text.size()), text);
+  }
+
+  void ExpectLinesEncoded(const std::string& bytes, const std::string& lines, Side side) {
+    char* in = in_.Put(bytes, side);
+    char* out = out_.Clear(lines.size(), side);
+    kernel_->encodeLines(Bytes(in), bytes.size() / kLineBytes, out);
+    ASSERT_EQ(std::string_view(out, lines.size()), lines);
+  }
+
+  void ExpectDecoded(const std::string& text, Side side) {
+    char* in = in_.Put(text, side);
+    for (const Invalid invalid : {Invalid::kSkipped, Invalid::kTakePlaces}) {
+      const std::string bytes = PlainDecode(text, invalid);
+      char* out = out_.Clear(bytes.size(), side);
+      Base64Decoder decoder(*kernel_, invalid, Bytes(out));
       // In two parts, of which the second begins anywhere in a group.
       const size_t half = text.size() / 2;
-      if (decoder.Decode({in.text, half})) decoder.Decode({in.text + half, text.size() - half});
-      ASSERT_EQ(std::string_view(out.text, decoder.Written()), bytes) << text;
+      if (decoder.Decode({in, half})) decoder.Decode({in + half, text.size() - half});
+      ASSERT_EQ(std::string_view(out, decoder.Written()), bytes) << text;
     }
   }
-}
 
-TEST(Base64, EveryKernelAgreesAtEveryLengthAndAlignment) {
+ private:
+  const Base64Kernel* kernel_ = nullptr;
+  Fenced in_;
+  Fenced out_;
+};
+
+INSTANTIATE_TEST_SUITE_P(Kernels, Base64, testing::ValuesIn(kNamedKernels),
+                         testing::PrintToStringParamName());
+
+TEST_P(Base64, AgreesAtEveryLength) {
   for (uint32_t size = 0; size <= 240; ++size) {
     const std::string bytes = Sample(size);
-    const std::string text = Encode(Kernels().back(), bytes, 0);
+    const std::string text = PlainEncode(bytes);
     ASSERT_EQ(PlainDecode(text, Invalid::kSkipped), bytes);
     std::string lines;
     for (size_t at = 0; at < size / kLineBytes; ++at) {
       lines += text.substr(at * kLineCharacters, kLineCharacters) + "\r\n";
     }
-    for (size_t alignment = 0; alignment < kAlignments; ++alignment) {
-      const Block in(alignment, bytes);
-      for (const Base64Kernel& kernel : Kernels()) {
-        ASSERT_EQ(Encode(kernel, bytes, alignment), text);
-        const Block out(alignment, std::string(lines.size(), 0));
-        kernel.encodeLines(in.Bytes(), size / kLineBytes, out.text);
-        ASSERT_EQ(std::string_view(out.text, lines.size()), lines);
-      }
-      ExpectDecoded(text, alignment);
+    for (const Side side : {Side::kFront, Side::kBack}) {
+      ExpectEncoded(bytes, text, side);
+      ExpectLinesEncoded(bytes.substr(0, size / kLineBytes * kLineBytes), lines, side);
+      ExpectDecoded(text, side);
+      ExpectDecoded(lines, side);
     }
   }
 }
 
 // Two characters may leave a group by one and enter the next by the other.
-TEST(Base64, EveryKernelAgreesOnAnyCharacterAtEveryPlace) {
+TEST_P(Base64, AgreesOnAnyCharacterAtEveryPlace) {
   std::vector<std::string> others = {"==", "=A", "A=", "\r\n", "*A", "A*", "=*", "*=", "==="};
   for (int c = 0; c < 256; ++c) others.emplace_back(1, static_cast<char>(c));
-  const std::string text = Encode(Kernels().back(), Sample(150), 0);
+  const std::string text = PlainEncode(Sample(150));
   // Alone it is more than four blocks of 32 characters, and the last block is not whole.
   std::vector<std::string> texts = {text};
   for (const std::string end : {"\n", "\r\n"}) {
@@ -110,22 +155,54 @@ TEST(Base64, EveryKernelAgreesOnAnyCharacterAtEveryPlace) {
     texts.push_back(lines);
   }
   for (const std::string& clean : texts) {
-    ExpectDecoded(clean, 0);
+    ExpectDecoded(clean, Side::kBack);
     for (size_t at = 0; at < clean.size(); ++at) {
       for (const std::string& other : others) {
-        ExpectDecoded(std::string(clean).replace(at, other.size(), other), at % kAlignments);
+        ExpectDecoded(std::string(clean).replace(at, other.size(), other), Side::kBack);
       }
     }
   }
 }
 
-TEST(Base64, LongTextsAreDecodedInParts) {
-  const std::string clean = Encode(Kernels().front(), Sample(100000), 0);
+TEST(Base64Text, LongOnesAreDecodedInParts) {
+  const std::string clean = PlainEncode(Sample(100000));
   for (const std::string& text : {clean, "*" + clean, clean.substr(0, 70001) + "=" + clean}) {
-    const Block out(0, std::string(text.size() / 4 * 3, 0));
+    const std::string bytes = PlainDecode(text, Invalid::kTakePlaces);
+    Fenced room;
+    char* out = room.Clear(bytes.size(), Side::kBack);
     uint32_t size = 0;
-    ASSERT_EQ(base64_decode(text.c_str(), out.Bytes(), &size), 0);
-    ASSERT_TRUE(std::string_view(out.text, size) == PlainDecode(text, Invalid::kTakePlaces));
+    ASSERT_EQ(base64_decode(text.c_str(), Bytes(out), &size), 0);
+    ASSERT_TRUE(std::string_view(out, size) == bytes);
+  }
+}
+
+// The test program is run on several processors, each with the name of its kernel.
+TEST(Dispatch, ChoosesTheFastestKernel) {
+  const char* expected = std::getenv("EXPECTED_KERNEL");
+  if (expected == nullptr) GTEST_SKIP() << "EXPECTED_KERNEL is not set";
+  for (const size_t octets : {size_t{16}, size_t{1000}, size_t{1} << 20}) {
+    EXPECT_EQ(NameOf(Base64Kernels(octets).front()), expected) << octets;
+  }
+}
+
+TEST(Dispatch, IsRightForEveryCaller) {
+  for (const uint32_t size : {10U, 100U, 1000U, 100000U}) {
+    std::string bytes = Sample(size);
+    std::string text(EncodedSize(size) + 1, 'x');
+    ASSERT_EQ(base64_encode(Bytes(bytes.data()), size, text.data()), 0);
+    ASSERT_EQ(text, PlainEncode(bytes) + '\0');
+    std::string again(size + 2, 0);
+    uint32_t length = 0;
+    ASSERT_EQ(base64_decode(text.c_str(), Bytes(again.data()), &length), 0);
+    ASSERT_EQ(again.substr(0, length), bytes);
+
+    std::string pem(2 * text.size() + 100, 0);
+    ASSERT_EQ(DER2PEM_data_format(Bytes(bytes.data()), size, pem.data(), &length, "-----BEGIN-----",
+                                  "-----END-----"),
+              0);
+    pem.resize(length);
+    ASSERT_EQ(PEM2DER_data_format(pem.data(), length, Bytes(again.data()), &length), 0);
+    ASSERT_EQ(again.substr(0, length), bytes);
   }
 }
 
