@@ -113,9 +113,14 @@ X86Set AskPlatform() {
   return set != X86Set::kBase ? set : FromLeaf1(__x86_get_cpuid_feature_leaf(0)->active);
 }
 #elif defined(_WIN32)
-// By number, since headers have their names late. Windows 10 of 2020 knows both, an older one none.
-bool PlatformKnows() { return IsProcessorFeaturePresent(36) != 0; }  // SSSE3
-X86Set AskPlatform() { return IsProcessorFeaturePresent(40) != 0 ? X86Set::kAvx2 : X86Set::kSsse3; }
+// PF_SSSE3_INSTRUCTIONS_AVAILABLE and PF_AVX2_INSTRUCTIONS_AVAILABLE of winnt.h, where headers have
+// them late. Windows 10 of 2020 knows both, an older one none.
+constexpr DWORD kSsse3 = 36;
+constexpr DWORD kAvx2 = 40;
+bool PlatformKnows() { return IsProcessorFeaturePresent(kSsse3) != 0; }
+X86Set AskPlatform() {
+  return IsProcessorFeaturePresent(kAvx2) != 0 ? X86Set::kAvx2 : X86Set::kSsse3;
+}
 #else
 bool PlatformKnows() { return false; }
 X86Set AskPlatform() { return X86Set::kBase; }
