@@ -2,7 +2,7 @@
 # Compares the names that a library exports, or that a .def file lists, with those of the header, and
 # the libraries that it needs with the C library, on Windows the system's kernel as well. On Linux each
 # name is of the version VELKORD_1. A static library has the names of its inside, in C++, as well.
-# Usage: check_symbols.sh LIBRARY OBJDUMP
+# Usage: check_symbols.sh LIBRARY OBJDUMP, beside which there is an nm
 set -euo pipefail
 export LC_ALL=C
 
@@ -19,11 +19,11 @@ case $1 in
     names=$(sed -nE 's/^ *(\w+) @[0-9]+.*/\1/p' "$1")
     ;;
   *.a)
-    names=$("${2%objdump}nm" -g --defined-only --format=posix "$1" |
+    names=$("${2/objdump/nm}" -g --defined-only --format=posix "$1" |
       sed -nE '/^_ZNK?(7velkord8internal|St)/d; s/ [A-Z] .*//p')
     ;;
   *)
-    names=$("${2%objdump}nm" -D --defined-only --format=posix "$1" | sed '/^VELKORD_1/d; s/@@VELKORD_1 .*//')
+    names=$("${2/objdump/nm}" -D --defined-only --format=posix "$1" | sed '/^VELKORD_1/d; s/@@VELKORD_1 .*//')
     headers=$("$2" -p "$1")
     needed=$(sed -n 's/.*NEEDED *//p' <<<"$headers")
     if [[ $headers == *GLIBC_2.33* ]]; then
