@@ -6,7 +6,6 @@
 #define VELKORD_TESTS_INVOCATION_H_
 
 #include <array>
-#include <cstring>
 #include <optional>
 #include <tuple>
 #include <type_traits>
@@ -111,9 +110,8 @@ class Invocation {
     ByteVector Bytes() const;
     template <typename Value>
     Value As() const {
-      Value value;
-      std::memcpy(&value, buffer.bytes.data(), sizeof(value));
-      return value;
+      const void* bytes = buffer.bytes.data();
+      return *static_cast<const Value*>(bytes);
     }
 
     Kind kind = Kind::kNode;

@@ -128,8 +128,9 @@ struct LaneAccess {
 
 template <typename Vector>
 VELKORD_ALWAYS_INLINE typename Vector::Block EncodeGroups(typename Vector::Block groups) {
-  // 32 bits hold one byte of a group twice. With the bits of its indexes as letters, the highest bit
-  // first, a multiplication of either half moves one index down to its octet, and another one up:
+  // 32 bits hold one byte of a group twice. With the bits of its indexes as letters, the highest
+  // bit first, a multiplication of either half moves one index down to its octet, and another one
+  // up:
   //
   //              b1       b2       b0       b1
   //   groups     bbbbcccc ccdddddd aaaaaabb bbbbcccc
