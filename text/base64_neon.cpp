@@ -23,6 +23,12 @@ namespace {
 constexpr size_t kBlockBytes = kLineBytes;
 constexpr size_t kBlockCharacters = kLineCharacters;
 
+// The intrinsics take characters as octets.
+inline const uint8_t* Octets(const char* in) {
+  return static_cast<const uint8_t*>(static_cast<const void*>(in));
+}
+inline uint8_t* Octets(char* out) { return static_cast<uint8_t*>(static_cast<void*>(out)); }
+
 // The low `count` bits of `low`, and above them those of `high`.
 template <int count>
 inline uint8x16_t Join(uint8x16_t high, uint8x16_t low) {
@@ -30,7 +36,7 @@ inline uint8x16_t Join(uint8x16_t high, uint8x16_t low) {
 }
 
 inline void EncodeBlock(const uint8_t* in, char* out) {
-  const uint8x16x4_t characters = vld1q_u8_x4(reinterpret_cast<const uint8_t*>(kBase64Alphabet));
+  const uint8x16x4_t characters = vld1q_u8_x4(Octets(kBase64Alphabet));
   const uint8x16_t indexBits = vdupq_n_u8(0x3F);
   const uint8x16x3_t bytes = vld3q_u8(in);
   const uint8x16_t second = Join<4>(bytes.val[0], vshrq_n_u8(bytes.val[1], 4));
@@ -41,7 +47,7 @@ inline void EncodeBlock(const uint8_t* in, char* out) {
       vqtbl4q_u8(characters, vandq_u8(third, indexBits)),
       vqtbl4q_u8(characters, vandq_u8(bytes.val[2], indexBits)),
   }};
-  vst4q_u8(reinterpret_cast<uint8_t*>(out), found);
+  vst4q_u8(Octets(out), found);
 }
 
 // The values of characters. A lookup leaves alone what lies beyond its table of 64, and characters
@@ -55,7 +61,7 @@ inline uint8x16_t LookUp(uint8x16_t characters) {
 
 // False when a character is none of the alphabet; then nothing is written.
 inline bool DecodeBlock(const char* in, uint8_t* out) {
-  const uint8x16x4_t characters = vld4q_u8(reinterpret_cast<const uint8_t*>(in));
+  const uint8x16x4_t characters = vld4q_u8(Octets(in));
   const uint8x16_t first = LookUp(characters.val[0]);
   const uint8x16_t second = LookUp(characters.val[1]);
   const uint8x16_t third = LookUp(characters.val[2]);
