@@ -174,17 +174,6 @@ bool Base64Decoder::Decode(std::string_view text) {
 
 using namespace velkord::internal;
 
-namespace {
-
-// The size of a zero-terminated text, or `limit` where it is longer.
-size_t SizeUpTo(uint64_t limit, const char* text) {
-  const auto most = static_cast<size_t>(limit);
-  const void* end = std::memchr(text, '\0', most);
-  return end == nullptr ? most : static_cast<size_t>(static_cast<const char*>(end) - text);
-}
-
-}  // namespace
-
 int32_t base64_encode(const uint8_t* in, uint32_t length, char* out) {
   *PutBase64(Base64Kernels(length).front(), in, length, out) = '\0';
   return VELKORD_OK;
@@ -192,15 +181,15 @@ int32_t base64_encode(const uint8_t* in, uint32_t length, char* out) {
 
 int32_t base64_decode(const char* text, uint8_t* out, uint32_t* outLength) {
   // A part is still in the cache when it is decoded after the search for the end of the text.
-  constexpr uint64_t kPart = 32768;
+  constexpr size_t kPart = 32768;
   // Characters beyond these would make more bytes than the length can tell.
   uint64_t left = uint64_t{UINT32_MAX} / 3 * 4;
-  size_t size = SizeUpTo(kPart, text);
+  size_t size = strnlen(text, kPart);
   Base64Decoder decoder(Base64Kernels(size).front(), Invalid::kTakePlaces, out);
   while (decoder.Decode({text, size}) && size == kPart) {
     text += size;
     left -= size;
-    size = SizeUpTo(std::min(kPart, left), text);
+    size = strnlen(text, static_cast<size_t>(std::min<uint64_t>(kPart, left)));
   }
   *outLength = decoder.Written();
   return VELKORD_OK;
