@@ -33,7 +33,8 @@ case $1 in
     allowed='libc\.(so\.6|so|musl-.*\.so\.1)'
     ;;
 esac
-diff <(grep -zoP 'VELKORD_CALL\s+\K\w+(?=\()' "$header" | tr '\0' '\n' | sort) <(sort <<<"$names") || {
+declared=$(tr -s '\n ' ' ' <"$header" | grep -oE 'VELKORD_CALL [A-Za-z0-9_]+\(' | sed 's/.* //; s/(//')
+diff <(sort <<<"$declared") <(sort <<<"$names") || {
   echo "The names of $1 (>) are not those of the header (<)." >&2
   exit 1
 }

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 
 #include "Velkord.h"
 #include "text/base64_alphabet.h"
@@ -96,7 +97,7 @@ std::span<const Base64Kernel> Base64Kernels(size_t octets) {
   };
 #if defined(VELKORD_X86)
   const X86Set set = octets < kShortText ? X86Set::kBase : AskForX86Set(octets);
-  return std::span(kKernels).subspan(3 - static_cast<size_t>(set));
+  return std::span(kKernels).subspan(std::size(kKernels) - 1 - static_cast<size_t>(set));
 #else
   static_cast<void>(octets);
   return kKernels;

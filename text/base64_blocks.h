@@ -182,7 +182,9 @@ VELKORD_ALWAYS_INLINE typename Vector::Block DecodeBlock(const char* in,
 }
 
 // Decodes a block for each of the places, which are 0, 1 and so on. False when one of them holds an
-// invalid character; then nothing is written. It is no loop, so that all stays in registers.
+// invalid character; then nothing is written. It is no loop, so that all stays in registers. Of the
+// lanes, 12 octets each, those of the last block are stored exactly; a block in front of it may
+// write 4 octets more, over which the next one is stored.
 template <typename Vector, size_t... kPlaces>
 VELKORD_ALWAYS_INLINE bool DecodeRun(const char* in, uint8_t* out,
                                      std::index_sequence<kPlaces...> /*places*/) {
